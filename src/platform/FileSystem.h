@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+// Windows' file attributes (FILE_ATTRIBUTE_*).
+struct FileAttribute {
+  static constexpr std::uint32_t ReadOnly = 0x1;
+  static constexpr std::uint32_t Hidden = 0x2;
+  static constexpr std::uint32_t System = 0x4;
+  static constexpr std::uint32_t Directory = 0x10;
+  static constexpr std::uint32_t Archive = 0x20;
+  static constexpr std::uint32_t Normal = 0x80;
+  static constexpr std::uint32_t ReparsePoint = 0x400;
+};
+
+struct FoundFile {
+  std::wstring name;
+  std::uint32_t attributes = 0;
+};
+
+/// A walk over one folder, in the order the file system gives; closed with the object.
+class DirectoryListing {
+ public:
+  virtual ~DirectoryListing() = default;
+
+  /// The next entry, without "." and ".."; false at the end (`found` then untouched).
+  virtual bool Next(FoundFile& found) = 0;
+};
+
+/// A file open for writing, shared with nobody; closed with the object.
+class OutputFile {
+ public:
+  virtual ~OutputFile() = default;
+
+  /// True when every byte was taken.
+  virtual bool Write(std::span<const std::byte> bytes) = 0;
+};
+
+/// The part of the file system that a reader needs. Paths are Windows paths of any length ("\"
+/// between names); names are compared without regard to case.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+
+  /// The whole file, read with one read; none when it cannot be opened or read, or is longer than
+  /// `limit` bytes.
+  virtual std::optional<std::vector<std::byte>> Read(const std::wstring& path,
+                                                     std::size_t limit = 256u << 20) = 0;
+
+  /// FileAttribute bits of a file or folder; none when there is no such thing.
+  virtual std::optional<std::uint32_t> Attributes(const std::wstring& path) = 0;
+
+  /// Opens a walk over the folder; null when it is no folder or cannot be listed. A folder on a
+  /// network that does not answer is given up after `patience` milliseconds: the caller's menu must
+  /// not hang with it.
+  virtual std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
+                                                 std::uint32_t patience) = 0;
+
+  /// The path in its short (8.3) form; empty when there is none.
+  virtual std::wstring ShortName(const std::wstring& path) = 0;
+
+  virtual std::wstring WorkingDirectory() = 0;
+};
+
+/// The file system. The Windows error code of the last failed call is at hand in LastError().
+class FileSystem : public FileReader {
+ public:
+  enum class Open { CreateAnew, Append };
+
+  /// Creates the file when it is not there. Null when it cannot be opened for writing.
+  virtual std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) = 0;
+
+  virtual bool Remove(const std::wstring& path) = 0;
+
+  /// Moves the file `from` over `to`, which may exist; both lie on one volume.
+  virtual bool Replace(const std::wstring& from, const std::wstring& to) = 0;
+
+  virtual bool ChangeDirectory(const std::wstring& folder) = 0;
+
+  /// Windows error code of this object's last failed call; 0 when none failed.
+  virtual std::uint32_t LastError() const = 0;
+};
+
+}  // namespace orvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace orvane::memory {
+
+/// Something that left the component: a message box, a started program, a file or value written.
+struct Effect {
+  using Value = std::variant<std::wstring, std::int64_t, bool, std::vector<std::wstring>>;
+
+  std::string call;  // the platform operation's name, such as "MessageBox"
+  std::vector<std::pair<std::string, Value>> fields;
+};
+
+/// The effects of a session on the memory desktop, in order. Every noun that changes the world
+/// outside the component adds to it.
+class Effects {
+ public:
+  void Add(Effect effect) { m_effects.push_back(std::move(effect)); }
+  const std::vector<Effect>& All() const { return m_effects; }
+  void Clear() { m_effects.clear(); }
+
+ private:
+  std::vector<Effect> m_effects;
+};
+
+}  // namespace orvane::memory

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/Handles.h"
+
+namespace orvane {
+
+class clsTrace;
+
+/// The thread's debug trace while it is switched on, else null. Everything below does nothing, not
+/// even formatting, when it is null.
+clsTrace* ActiveDebugTrace();
+
+// Parts of a log line, each turned into text.
+inline std::wstring_view LogText(std::wstring_view text) { return text; }
+inline std::wstring_view LogText(bool value) { return value ? L"True" : L"False"; }
+template <std::integral Number>
+std::wstring LogText(Number number) {
+  return std::to_wstring(number);
+}
+
+/// "0x" and 8 upper-case hexadecimal digits.
+std::wstring Hex(std::int32_t number);
+template <class Handle>
+  requires std::is_enum_v<Handle>
+std::wstring Hex(Handle handle) {
+  return Hex(ToNumber(handle));
+}
+/// The low 32 bits of an address: enough to tell two apart in a log.
+std::wstring Hex(const void* address);
+
+/// Writes one finished line to the thread's debug trace.
+void LogLine(const std::wstring& line);
+
+/// Writes a line made of its parts: Log(L"hMenu=", Hex(menu), L"  szDir=", folder).
+template <class... Part>
+void Log(const Part&... parts) {
+  if (!ActiveDebugTrace()) return;
+  std::wstring line;
+  (line.append(LogText(parts)), ...);
+  LogLine(line);
+}
+
+/// The trace's entry into an operation and, at the end of its block, its exit.
+class TraceScope {
+ public:
+  explicit TraceScope(std::wstring_view operation);
+  ~TraceScope();
+  TraceScope(const TraceScope&) = delete;
+  TraceScope& operator=(const TraceScope&) = delete;
+
+  /// In a catch clause: makes the exception being handled the thread's pending error, which the
+  /// exit then logs before its own line.
+  void Caught() noexcept;
+
+  /// Lets the exit log the thread's pending error, if there is one.
+  void CheckErrorAtExit() { m_checkError = true; }
+
+ private:
+  clsTrace* m_trace;
+  bool m_checkError = false;
+};
+
+}  // namespace orvane
