@@ -1,0 +1,24 @@
+#include "shellext/ModuleGlobals.h"
+
+#include "platform/SystemInfo.h"
+
+namespace orvane {
+
+ModuleGlobals::ModuleGlobals(const Platform& platform)
+    : platform(platform),
+      codePage(platform.system.AnsiCharacters()),
+      g_Debug(platform.files, platform.boxes, platform.clock, platform.locale, platform.tcp,
+              codePage),
+      g_Timing(platform.files, platform.boxes, platform.clock, platform.locale, platform.tcp,
+               codePage),
+      threadState{&g_Debug, &g_Timing, {}},
+      g_HistoryMRU(platform.registry),
+      g_QuickAccessMRU(platform.registry),
+      g_CopyToMRU(platform.registry),
+      tools(g_Options, g_Debug, platform.shell) {
+  ThreadState::SetCurrent(&threadState);
+}
+
+ModuleGlobals::~ModuleGlobals() { ThreadState::SetCurrent(nullptr); }
+
+}  // namespace orvane
