@@ -36,6 +36,9 @@ class Windows {
   virtual std::optional<std::intptr_t> Send(WindowHandle window, std::uint32_t message,
                                             std::intptr_t wParam, std::intptr_t lParam,
                                             std::uint32_t timeout) = 0;
+
+  /// Lets the calling thread's waiting messages run, until none is left or `milliseconds` are over.
+  virtual void RunMessages(std::uint32_t milliseconds) = 0;
 };
 
 }  // namespace orvane
