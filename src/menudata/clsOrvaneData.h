@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 
+#include "menudata/FieldText.h"
 #include "menudata/clsCollection.h"
 
 namespace orvane {
@@ -56,31 +56,31 @@ class clsOrvaneData : public Object {
 
   std::int32_t m_lType = TypeRoot;
   std::int32_t m_lOptions = 0;
-  std::wstring m_szRoot_Caption;
-  std::wstring m_szFolder_Location;
-  std::wstring m_szFolder_Caption;
-  std::wstring m_szPopupMenu_caption;
-  std::wstring m_szFile_Location;
-  std::wstring m_szFile_Caption;
-  std::wstring m_szAction_Caption;
-  std::wstring m_szAction_Actions;
-  std::wstring m_szSelection_WorkingDir;
-  std::wstring m_szSelection_Caption;
-  std::wstring m_szSelection_Command;
-  std::wstring m_szSelection_Parms;
-  std::wstring m_szSelection_File;
-  std::wstring m_szSelection_CmdPrefix;
-  std::wstring m_szSelection_CmdSuffix;
-  std::wstring m_szSelection_FilePrefix;
-  std::wstring m_szSelection_FileSuffix;
-  std::wstring m_szSelection_Filter;
+  FieldText m_szRoot_Caption;
+  FieldText m_szFolder_Location;
+  FieldText m_szFolder_Caption;
+  FieldText m_szPopupMenu_caption;
+  FieldText m_szFile_Location;
+  FieldText m_szFile_Caption;
+  FieldText m_szAction_Caption;
+  FieldText m_szAction_Actions;
+  FieldText m_szSelection_WorkingDir;
+  FieldText m_szSelection_Caption;
+  FieldText m_szSelection_Command;
+  FieldText m_szSelection_Parms;
+  FieldText m_szSelection_File;
+  FieldText m_szSelection_CmdPrefix;
+  FieldText m_szSelection_CmdSuffix;
+  FieldText m_szSelection_FilePrefix;
+  FieldText m_szSelection_FileSuffix;
+  FieldText m_szSelection_Filter;
   std::int32_t m_lSelection_Options = 0;
-  std::wstring m_szDFolder_Location;
-  std::wstring m_szDFolder_Caption;
-  std::wstring m_szDFolder_Filter;
+  FieldText m_szDFolder_Location;
+  FieldText m_szDFolder_Caption;
+  FieldText m_szDFolder_Filter;
   std::int32_t m_lDFolder_Options = 0;
-  std::wstring m_szCopyToX_Location;
-  std::wstring m_szCopyToX_Caption;
+  FieldText m_szCopyToX_Location;
+  FieldText m_szCopyToX_Caption;
   std::int32_t m_lCopyToX_Options = 0;
   std::shared_ptr<clsCollection> m_oBitmap;
 
@@ -108,9 +108,7 @@ class clsOrvaneData : public Object {
   bool IsTypeDynamicFolderEmpty() const { return m_lType == TypeDynamicFolderEmpty; }
 
   bool OptionsIsLeaf() const { return (m_lOptions & OptionsLeaf) > 0; }
-  bool OptionsIsExploreInNewWindow() const {
-    return (m_lOptions & OptionsExploreInNewWindow) > 0;
-  }
+  bool OptionsIsExploreInNewWindow() const { return (m_lOptions & OptionsExploreInNewWindow) > 0; }
   bool OptionsIsCSIDL() const { return (m_lOptions & OptionsCSIDL) > 0; }
   bool OptionsIsBrowseAndOpen() const { return (m_lOptions & OptionsBrowseAndOpen) > 0; }
 
@@ -127,10 +125,10 @@ class clsOrvaneData : public Object {
 
   /// The caption and the location field of the item's type; without one the text is empty and
   /// setting it stores nothing.
-  const std::wstring& Caption() const;
-  void Caption(std::wstring caption);
-  const std::wstring& Location() const;
-  void Location(std::wstring location);
+  const FieldText& Caption() const;
+  void Caption(FieldText caption);
+  const FieldText& Location() const;
+  void Location(FieldText location);
 
   /// The special-folder number that m_szFolder_Location holds, 0 for blanks. Error 13 or 6 when the
   /// text is no 32-bit number.
@@ -141,6 +139,8 @@ class clsOrvaneData : public Object {
 
  private:
   std::int32_t Selection(std::int32_t bit) const { return m_lSelection_Options & bit; }
+
+  FieldText m_none;  // stays empty: what the views of a type without the field refer to
 };
 
 }  // namespace orvane

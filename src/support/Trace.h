@@ -17,9 +17,10 @@ clsTrace* ActiveDebugTrace();
 
 // Parts of a log line, each turned into text.
 inline std::wstring_view LogText(std::wstring_view text) { return text; }
-inline std::wstring_view LogText(bool value) { return value ? L"True" : L"False"; }
 template <std::integral Number>
 std::wstring LogText(Number number) {
+  // Not an overload of its own: texts in quotes, which are pointers, would rather be that.
+  if constexpr (std::same_as<Number, bool>) return number ? L"True" : L"False";
   return std::to_wstring(number);
 }
 

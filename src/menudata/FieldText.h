@@ -1,0 +1,63 @@
+#pragma once
+
+#include <compare>
+#include <concepts>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace orvane {
+
+/// A text field of a record or node: one pointer while it is empty, one block of memory otherwise.
+/// A record has 22 of them, two of which are set as a rule, and a menu has thousands of records:
+/// with std::wstring most of the time that a large menu takes goes into memory that stays empty.
+/// Otherwise it is a wide text of any length and content; it reads as one and is set from one.
+class FieldText {
+ public:
+  FieldText() = default;
+  template <class Source>
+  requires std::convertible_to<const Source&, std::wstring_view> FieldText(const Source& source)
+      : m_block(MakeBlock(source)) {}
+  FieldText(const FieldText& other) : m_block(MakeBlock(other)) {}
+  FieldText(FieldText&& other) noexcept : m_block(std::exchange(other.m_block, nullptr)) {}
+  FieldText& operator=(FieldText other) noexcept {
+    std::swap(m_block, other.m_block);
+    return *this;
+  }
+  ~FieldText() { ::operator delete(m_block); }
+
+  operator std::wstring_view() const {
+    return m_block ? std::wstring_view(Characters(m_block), m_block->length) : std::wstring_view();
+  }
+  operator std::wstring() const { return std::wstring(std::wstring_view(*this)); }
+  bool empty() const { return !m_block; }
+  std::size_t size() const { return m_block ? m_block->length : 0; }
+
+  template <class Other>
+  requires std::convertible_to<const Other&, std::wstring_view>
+  friend bool operator==(const FieldText& left, const Other& right) {
+    return std::wstring_view(left) == std::wstring_view(right);
+  }
+  friend auto operator<=>(const FieldText& left, const FieldText& right) {
+    return std::wstring_view(left) <=> std::wstring_view(right);
+  }
+  friend std::wstring operator+(const FieldText& left, std::wstring_view right) {
+    return std::wstring(left).append(right);
+  }
+  friend std::wstring operator+(std::wstring_view left, const FieldText& right) {
+    return std::wstring(left).append(right);
+  }
+
+ private:
+  struct Block {
+    std::size_t length;  // the characters follow
+  };
+
+  static wchar_t* Characters(Block* block) { return reinterpret_cast<wchar_t*>(block + 1); }
+  static Block* MakeBlock(std::wstring_view text);
+
+  Block* m_block = nullptr;
+};
+
+}  // namespace orvane
