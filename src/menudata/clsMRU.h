@@ -8,20 +8,30 @@
 
 namespace orvane {
 
+class MenuControl;
+
 /// A recently-used list: texts, newest first, kept in one registry key under HKEY_CURRENT_USER.
+/// What the registry refuses leaves an empty list or entry; nobody is told.
 class clsMRU {
  public:
+  /// No list grows past this, whatever the settings ask for: every entry is a menu entry.
+  static constexpr std::int32_t Limit = 1000;
+
   explicit clsMRU(Registry& registry) : m_registry(registry) {}
 
-  const std::wstring& Path() const;
-  void Path(std::wstring path);  // with a backslash at its end
-  std::int32_t MaxFileCount() const;
+  const std::wstring& Path() const { return m_path; }
+  void Path(std::wstring path) { m_path = std::move(path); }  // with a backslash at its end
+  std::int32_t MaxFileCount() const { return static_cast<std::int32_t>(m_entries.size()); }
+  /// Brought between 0 and Limit. Keeps the entries that fit.
   void MaxFileCount(std::int32_t maximum);
-  std::int32_t FileCount() const;
+  std::int32_t FileCount() const { return m_count; }
   const std::wstring& File(std::int32_t index) const;  // 1-based; Error 9 beyond the slots
-  bool FileExists(std::int32_t index) const;
-  bool UserInterface() const;
-  void UserInterface(bool on);
+  bool FileExists(std::int32_t index) const { return !File(index).empty(); }
+  /// Whether changes go to an attached menu control instead of being saved at once.
+  bool UserInterface() const { return m_userInterface; }
+  void UserInterface(bool on) { m_userInterface = on; }
+  /// The control that UpdateFileMenu fills, or null; the caller's.
+  void FileMenu(MenuControl* control) { m_fileMenu = control; }
 
   std::wstring MenuCaption(std::int32_t index, std::int32_t number) const;
   /// Puts the text in front; a text already there (whatever its case) moves up.
@@ -29,12 +39,21 @@ class clsMRU {
   bool Save();
   bool Load(std::int32_t maximum);
   void Reset();
+  void UpdateFileMenu(const std::wstring& text);
+  void AddToSmartUI(MenuControl& control, const std::wstring& text);
 
   /// At most 32 characters as they are; a longer path loses its front folders to "...".
   static std::wstring GetShortenedName(const std::wstring& text);
 
  private:
+  std::int32_t Find(const std::wstring& text) const;
+
   Registry& m_registry;
+  std::wstring m_path;
+  std::vector<std::wstring> m_entries;  // one slot for each entry the list may hold
+  std::int32_t m_count = 0;
+  bool m_userInterface = true;
+  MenuControl* m_fileMenu = nullptr;
 };
 
 }  // namespace orvane

@@ -5,6 +5,23 @@
 
 namespace orvane {
 
+class Clock;
+class FileSystem;
+class Locale;
+class MessageBoxes;
+class Registry;
+class SystemInfo;
+
+/// What loading, saving and applying the settings touches, beside the thread's two traces.
+struct SettingsServices {
+  Registry& registry;
+  FileSystem& files;
+  MessageBoxes& boxes;
+  SystemInfo& system;
+  Clock& clock;
+  Locale& locale;
+};
+
 /// The user's settings, shared with the designer: read from the registry by every new handler.
 class clsOptions {
  public:
@@ -53,15 +70,36 @@ class clsOptions {
   std::wstring m_szTimingOutput;
   std::int32_t m_lOptions = 0;
 
-  bool ShowFlag_IsInSubMenu() const;
-  bool ShowFlag_IsOpen() const;
-  bool ShowFlag_IsCopyToClipboard() const;
-  bool ShowFlag_IsRunDialog() const;
-  bool ShowFlag_IsCommandPrompt() const;
-  bool ShowFlag_IsCopyTo() const;
-  bool ShowFlag_IsMoveTo() const;
-  bool ShowFlag_IsTaskManager() const;
-  bool ShowFlag_IsDesktop() const;
+  bool ShowFlag_IsInSubMenu() const { return Shows(ShowFlag_InSubMenu); }
+  bool ShowFlag_IsOpen() const { return Shows(ShowFlag_OpenInNewWindow); }
+  bool ShowFlag_IsCopyToClipboard() const { return Shows(ShowFlag_CopyToClipboard); }
+  bool ShowFlag_IsRunDialog() const { return Shows(ShowFlag_RunDialog); }
+  bool ShowFlag_IsCommandPrompt() const { return Shows(ShowFlag_CommandPrompt); }
+  bool ShowFlag_IsCopyTo() const { return Shows(ShowFlag_CopyTo); }
+  bool ShowFlag_IsMoveTo() const { return Shows(ShowFlag_MoveTo); }
+  bool ShowFlag_IsTaskManager() const { return Shows(ShowFlag_TaskManager); }
+  bool ShowFlag_IsDesktop() const { return Shows(ShowFlag_Desktop); }
+
+  /// Every setting back to its default; m_szPath, m_bShellShowOpen, m_lDebugFlags and m_lOptions
+  /// stay.
+  void Reset(SystemInfo& system);
+
+  /// Reads the settings from a key under HKEY_CURRENT_USER and applies them; what is missing there,
+  /// or of another type, gets its default.
+  void Reg_Load(const SettingsServices& services, const std::wstring& key);
+
+  /// Writes the settings, or the four of the debug menu only, which then restarts the debug trace.
+  /// An empty key means m_szPath. Gives back the key that was written to.
+  std::wstring Reg_Save(const SettingsServices& services, std::wstring key, bool debugSettingsOnly);
+
+  /// Starts the traces that are switched on, each on a new file.
+  void ProcessSettings(const SettingsServices& services, bool debugOnly, bool showDebugWarning);
+
+ private:
+  bool Shows(std::int32_t flag) const { return (m_lShellShowFlags & flag) > 0; }
+  void StartDebugTrace(const SettingsServices& services) const;
+  void StartTimingTrace(const SettingsServices& services) const;
+  void LogSettings() const;
 };
 
 }  // namespace orvane

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "menudata/DefinitionFile.h"
+#include "menudata/clsFileHeader.h"
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneData.h"
 #include "platform/Shell.h"
@@ -10,12 +12,30 @@
 
 namespace orvane {
 
-/// The texts that are made of a menu item record: its entry in a recently-used list, its caption,
-/// its help text, its one-line summary.
+/// Reads item records from the menu definition file, and makes the texts that are made of them: the
+/// entry in a recently-used list, the caption, the help text, the one-line summary.
 class clsOrvaneDataTools {
  public:
   /// `debug` is asked for its scrambling only and need not be switched on.
-  clsOrvaneDataTools(const clsOptions& options, clsTrace& debug, Shell& shell);
+  clsOrvaneDataTools(const clsOptions& options, clsTrace& debug, Shell& shell)
+      : m_options(options), m_debug(debug), m_shell(shell) {}
+
+  static constexpr std::int32_t MinVersion() { return 1; }
+  static constexpr std::int32_t CurrentVersion() { return 1; }
+  static constexpr std::int32_t MaxVersion() { return 1; }
+
+  // Each reads the next value or values of the file: CorruptFile when the file's layout is broken,
+  // Error 13 or 6 where a number should stand and does not.
+
+  std::int32_t File_ReadVersion(DefinitionFile& file) const;
+  /// False with fewer than two numbers, `header` then untouched.
+  bool File_ReadHeader(DefinitionFile& file, clsFileHeader& header) const;
+  /// Parent, type and options; false unless they are exactly three numbers, nothing is set then.
+  bool File_ReadItemHeader(DefinitionFile& file, std::int32_t& parentIndex,
+                           clsOrvaneData& item) const;
+  std::wstring File_ReadString(DefinitionFile& file) const;
+  /// The values that belong to the item's type.
+  void ReadData(DefinitionFile& file, clsOrvaneData& item) const;
 
   /// The enciphered list entry of an item, and back.
   std::wstring CreateHistoryMRU(const clsOrvaneData& item) const;
@@ -29,6 +49,13 @@ class clsOrvaneDataTools {
   std::wstring GetExplorerDescription(const clsOrvaneData& item, const std::wstring& currentFile,
                                       const std::wstring& currentFolder) const;
   std::wstring GetDesignerDescription(const clsOrvaneData& item) const;
+
+ private:
+  std::wstring SpecialFolder(const clsOrvaneData& item) const;
+
+  const clsOptions& m_options;
+  clsTrace& m_debug;
+  Shell& m_shell;
 };
 
 }  // namespace orvane
