@@ -25,8 +25,9 @@ class ShellIcons {
   /// such thing.
   virtual std::optional<SystemIcon> Find(const std::wstring& path) = 0;
 
-  // The icon that files of the name's extension, or folders, share. Touches no file.
-  virtual std::optional<SystemIcon> FindFileKind(const std::wstring& name) = 0;
+  // The icon that all files of the extension (with its dot; empty for none), or all folders, share.
+  // Touches no file.
+  virtual std::optional<SystemIcon> FindFileKind(const std::wstring& extension) = 0;
   virtual std::optional<SystemIcon> FindFolderKind() = 0;
 
   /// Whether each file of the extension (with its dot, lower case) may have an icon of its own, as

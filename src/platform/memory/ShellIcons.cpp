@@ -32,10 +32,10 @@ std::optional<SystemIcon> ShellIcons::Find(const std::wstring& path) {
   return Place(HasOwnIcons(extension) ? LowerCase(path) : extension);
 }
 
-std::optional<SystemIcon> ShellIcons::FindFileKind(const std::wstring& name) {
+std::optional<SystemIcon> ShellIcons::FindFileKind(const std::wstring& extension) {
   ++kindFinds;
   if (m_faults.Hit()) return std::nullopt;
-  return Place(ExtensionOf(name));
+  return Place(extension);
 }
 
 std::optional<SystemIcon> ShellIcons::FindFolderKind() {

@@ -18,7 +18,7 @@ class ShellIcons : public orvane::ShellIcons {
   ShellIcons(FileReader& files, Faults& faults) : m_files(files), m_faults(faults) {}
 
   std::optional<SystemIcon> Find(const std::wstring& path) override;
-  std::optional<SystemIcon> FindFileKind(const std::wstring& name) override;
+  std::optional<SystemIcon> FindFileKind(const std::wstring& extension) override;
   std::optional<SystemIcon> FindFolderKind() override;
   bool HasOwnIcons(const std::wstring& extension) override;
   IconHandle Take(const SystemIcon& icon, std::int32_t size) override;
