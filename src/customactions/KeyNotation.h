@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Keyboard.h"
+
+namespace orvane {
+
+// Texts in the keystroke notation. Characters stand for themselves, except:
+//   + ^ %         hold Shift, Ctrl, Alt for the next key, or for a group in parentheses
+//   ~             Enter
+//   {NAME}        a named key, in any case: {ENTER}, {TAB}, {F1}
+//   {c}           the character c itself, whichever it is
+//   {NAME n} {c n}  the same n times
+// Square brackets stand for themselves too. Under a modifier a letter or digit means its key, so
+// that ^C and ^c are one; a character without such a key is typed as it is.
+
+/// More key events than any text has good use for, less than fill the memory or take a minute.
+constexpr std::size_t MaxKeyEvents = 100'000;
+
+/// The events that the text stands for, every pressed key released again. Error 5 or 13 for what is
+/// no proper notation, Error 6 beyond MaxKeyEvents.
+std::vector<KeyEvent> ParseKeyNotation(std::wstring_view text);
+
+/// Types the text into the foreground window and waits until it has been taken. False when the
+/// window did not take it in time; errors as from ParseKeyNotation, nothing typed then.
+bool SendKeys(Keyboard& keyboard, const std::wstring& text);
+
+}  // namespace orvane

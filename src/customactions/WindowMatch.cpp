@@ -1,0 +1,52 @@
+#include "customactions/WindowMatch.h"
+
+#include <utility>
+
+#include "customactions/clsProcess.h"
+#include "support/Text.h"
+#include "support/Trace.h"
+
+namespace orvane {
+namespace {
+
+// Windows move while they are walked: a chain that bends back into itself must end.
+constexpr std::size_t MaxChain = 256;
+
+bool Compare(const MatchText& pattern, const MatchText& value, std::int32_t mode) {
+  switch (mode) {
+    case MatchMode::Exact:
+      return value.text == pattern.text;
+    case MatchMode::Partial:
+      return value.lower.starts_with(pattern.lower);
+    case MatchMode::Anywhere:
+      return pattern.lower.find(value.lower) != std::wstring::npos;
+    default:
+      return true;
+  }
+}
+
+}  // namespace
+
+MatchText::MatchText(std::wstring szText) : text(std::move(szText)), lower(LowerCase(text)) {}
+
+bool MatchString(const MatchText& szSrc, const MatchText& szDest, std::int32_t lMode) {
+  TraceScope scope(L"MatchString");
+  Log(L"szSrc=", szSrc.text, L"  szDest=", szDest.text, L"  lMode=", lMode);
+  const bool result = Compare(szSrc, szDest, lMode);
+  Log(L"MatchString=", result);
+  return result;
+}
+
+MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd) {
+  MatchTarget target{.chain = {}, .exe = MatchText(process.GetExeViaHwnd(hWnd))};
+  for (WindowHandle window = hWnd; window != WindowHandle::None && target.chain.size() < MaxChain;
+       window = windows.Parent(window)) {
+    std::wstring className, caption;
+    GetWindowClassAndCaption(windows, window, className, caption);
+    Log(L"szClass=", className, L"  szCaption=", caption);
+    target.chain.push_back({MatchText(std::move(className)), MatchText(std::move(caption))});
+  }
+  return target;
+}
+
+}  // namespace orvane

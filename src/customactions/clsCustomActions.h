@@ -1,0 +1,131 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "menudata/clsCollection.h"
+#include "platform/Handles.h"
+
+namespace orvane {
+
+class ActionsFile;
+class Clock;
+class clsProcess;
+class CodePage;
+class FileReader;
+class Keyboard;
+class Locale;
+class MessageBoxes;
+class ProfileFiles;
+class Windows;
+struct LocalTime;
+struct MatchTarget;
+
+/// What custom actions need of the world.
+struct ActionServices {
+  FileReader& files;
+  ProfileFiles& profiles;
+  Windows& windows;
+  clsProcess& process;
+  Keyboard& keyboard;
+  Clock& clock;
+  Locale& locale;
+  MessageBoxes& boxes;
+  const CodePage& codePage;
+};
+
+/// One custom action (the public fields), and the operations on the file of actions: an INI file
+/// with a section for each action. Nothing of the file is kept between calls; an empty szPath means
+/// `Path`. A number in the file that is none, or out of range, is an Error 13 or 6 to the caller.
+class clsCustomActions {
+ public:
+  static constexpr std::int32_t TypeAny = -1;
+  static constexpr std::int32_t TypeWindow = 1;   // played into the window that asked for the menu
+  static constexpr std::int32_t TypeGeneral = 2;  // tied to no window
+
+  static constexpr std::int32_t OptionEnabled = 1;  // bit of m_lOptions
+
+  static constexpr std::int32_t OptionMatchIgnore = 0;
+  static constexpr std::int32_t OptionMatchPartial = 1;
+  static constexpr std::int32_t OptionMatchExact = 2;
+  static constexpr std::int32_t OptionMatchAnywhere = 4;
+
+  explicit clsCustomActions(const ActionServices& services) : m_services(services) {}
+
+  std::wstring Path;
+  std::wstring m_szId;  // the section's name
+  std::int32_t m_lType = TypeAny;
+  std::int32_t m_lOrder = 0;
+  std::wstring m_szDescription;
+  std::wstring m_szExe;
+  std::int32_t m_lExeMatch = OptionMatchIgnore;
+  std::wstring m_szClass;
+  std::int32_t m_lClassMatch = OptionMatchIgnore;
+  std::wstring m_szCaption;
+  std::int32_t m_lCaptionMatch = OptionMatchIgnore;
+  std::wstring m_szActions;  // the script
+  std::int32_t m_lOptions = 0;
+
+  /// IDs of the actions of a type (TypeAny: all), ascending by Order, those of one Order as they
+  /// stand in the file. The result is their number.
+  std::int32_t LoadEx(std::vector<std::wstring>& szSectionsArray, std::int32_t lType,
+                      const std::wstring& szPath, bool bIgnoreDisabled);
+
+  /// Number of actions of a type (TypeAny: all), enabled or not.
+  std::int32_t Count(std::int32_t lType, const std::wstring& szPath);
+
+  /// Reads one action; false when it has no description.
+  bool Load(const std::wstring& szId, const std::wstring& szPath);
+
+  /// Replaces the whole section m_szId.
+  void Save(const std::wstring& szPath);
+  void Delete(const std::wstring& szId, const std::wstring& szPath);
+
+  /// Gives the actions in slots 1, 2, ... those numbers as their Order; slot 0 is not used.
+  void Resequence(const std::vector<std::wstring>& szIds, const std::wstring& szPath);
+
+  bool IsOptionEnabled() const { return (m_lOptions & OptionEnabled) > 0; }
+
+  /// `hWnd` when an enabled window action matches it, which this object then holds; else None.
+  WindowHandle MatchWindow(WindowHandle hWnd, const std::wstring& szPath);
+
+  // The tokens of a script: the bare names (Ex), and in their brackets.
+  static std::wstring TokenItem();
+  static std::wstring TokenItemEx();
+  static std::wstring TokenDate();
+  static std::wstring TokenDateEx();
+  static std::wstring TokenPause();
+  static std::wstring TokenPauseEx();
+  static std::wstring TokenSelection();
+  static std::wstring TokenSelectionEx();
+
+  /// Breaks m_szActions into steps (see ParseActionScript). A pause that is no number is shown to
+  /// the user. `bSuccess`: the whole script was understood.
+  void BreakdownActions(clsCollection& steps, bool& bSuccess);
+
+  /// Plays the script into the foreground window, the item token as `szItem`.
+  void SendActions(const std::wstring& szItem);
+
+  /// The script as one text, its tokens replaced; unchanged when it is not understood.
+  std::wstring BuildActionString(const std::wstring& szItem, const std::wstring& szSelection);
+
+ private:
+  const std::wstring& PathOr(const std::wstring& szPath) const;
+  std::int32_t LoadEx(std::vector<std::wstring>& szSectionsArray, std::int32_t lType,
+                      const ActionsFile& file, bool bIgnoreDisabled);
+  bool Load(const std::wstring& szId, const ActionsFile& file);
+  void Write(const std::wstring& szId, const wchar_t* key, const std::wstring& value,
+             const std::wstring& szPath);
+
+  bool MatchWindow_(const std::wstring& szId, const ActionsFile& file, const MatchTarget& target);
+  bool MatchExe(const MatchTarget& target) const;
+  bool MatchCaption(const MatchTarget& target) const;
+  bool MatchClass(const MatchTarget& target) const;
+
+  bool PlayStep(const clsCollection& step, const std::wstring& szItem, const LocalTime& now);
+
+  ActionServices m_services;
+};
+
+}  // namespace orvane
