@@ -6,8 +6,8 @@
 namespace orvane {
 
 // Every number that is read from text is read here: decimal digits with an optional sign, blanks
-// and tabs around them allowed. Anything else, nothing too, is an Error 13 (type mismatch); a number
-// outside the range an Error 6 (overflow).
+// and tabs around them allowed. Anything else, nothing too, is an Error 13 (type mismatch); a
+// number outside the range an Error 6 (overflow).
 
 std::int32_t ParseNumber(std::wstring_view text);
 std::int16_t ParseNumber16(std::wstring_view text);

@@ -6,8 +6,12 @@ namespace {
 thread_local constinit ThreadState* t_state = nullptr;
 }  // namespace
 
-ThreadState* ThreadState::Current() { return t_state; }
+ThreadState* ThreadState::Current() {
+  return t_state;
+}
 
-void ThreadState::SetCurrent(ThreadState* state) { t_state = state; }
+void ThreadState::SetCurrent(ThreadState* state) {
+  t_state = state;
+}
 
 }  // namespace orvane

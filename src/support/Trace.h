@@ -16,7 +16,9 @@ class clsTrace;
 clsTrace* ActiveDebugTrace();
 
 // Parts of a log line, each turned into text.
-inline std::wstring_view LogText(std::wstring_view text) { return text; }
+inline std::wstring_view LogText(std::wstring_view text) {
+  return text;
+}
 template <std::integral Number>
 std::wstring LogText(Number number) {
   // Not an overload of its own: texts in quotes, which are pointers, would rather be that.
@@ -27,8 +29,7 @@ std::wstring LogText(Number number) {
 /// "0x" and 8 upper-case hexadecimal digits.
 std::wstring Hex(std::int32_t number);
 template <class Handle>
-  requires std::is_enum_v<Handle>
-std::wstring Hex(Handle handle) {
+requires std::is_enum_v<Handle> std::wstring Hex(Handle handle) {
   return Hex(ToNumber(handle));
 }
 /// The low 32 bits of an address: enough to tell two apart in a log.
@@ -38,18 +39,22 @@ std::wstring Hex(const void* address);
 void LogLine(const std::wstring& line);
 
 /// Writes a line made of its parts: Log(L"hMenu=", Hex(menu), L"  szDir=", folder).
+/// Never fails: a line for which there is no memory is lost.
 template <class... Part>
-void Log(const Part&... parts) {
+void Log(const Part&... parts) noexcept {
   if (!ActiveDebugTrace()) return;
-  std::wstring line;
-  (line.append(LogText(parts)), ...);
-  LogLine(line);
+  try {
+    std::wstring line;
+    (line.append(LogText(parts)), ...);
+    LogLine(line);
+  } catch (...) {
+  }
 }
 
 /// The trace's entry into an operation and, at the end of its block, its exit.
 class TraceScope {
  public:
-  explicit TraceScope(std::wstring_view operation);
+  explicit TraceScope(std::wstring_view operation) noexcept;
   ~TraceScope();
   TraceScope(const TraceScope&) = delete;
   TraceScope& operator=(const TraceScope&) = delete;

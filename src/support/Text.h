@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+/// Lower case, character by character and independent of any locale.
+wchar_t LowerCase(wchar_t character);
+std::wstring LowerCase(std::wstring_view text);
+
+/// Without the blanks at both ends.
+std::wstring_view Trim(std::wstring_view text);
+/// Without the blanks at the end.
+std::wstring_view TrimEnd(std::wstring_view text);
+
+}  // namespace orvane

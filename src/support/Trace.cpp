@@ -1,0 +1,49 @@
+#include "support/Trace.h"
+
+#include "support/ThreadState.h"
+#include "support/clsTrace.h"
+
+namespace orvane {
+
+clsTrace* ActiveDebugTrace() {
+  const ThreadState* thread = ThreadState::Current();
+  if (!thread || !thread->debug || !thread->debug->IsInitialised()) return nullptr;
+  return thread->debug;
+}
+
+std::wstring Hex(std::int32_t number) {
+  return clsTrace::ToHex(number);
+}
+
+std::wstring Hex(const void* address) {
+  return Hex(static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(address)));
+}
+
+void LogLine(const std::wstring& line) {
+  if (clsTrace* trace = ActiveDebugTrace()) trace->Output(line, 0);
+}
+
+TraceScope::TraceScope(std::wstring_view operation) noexcept : m_trace(ActiveDebugTrace()) {
+  if (!m_trace) return;
+  try {
+    m_trace->Push(std::wstring(operation));
+  } catch (...) {
+    m_trace = nullptr;
+  }
+}
+
+TraceScope::~TraceScope() {
+  // The operation may have ended the trace it began with.
+  if (!m_trace || m_trace != ActiveDebugTrace()) return;
+  try {
+    m_trace->Pop(m_checkError);
+  } catch (...) {
+  }
+}
+
+void TraceScope::Caught() noexcept {
+  if (ThreadState* thread = ThreadState::Current()) thread->pending = CaughtError();
+  m_checkError = true;
+}
+
+}  // namespace orvane
