@@ -1,57 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-#include <thread>
-
-namespace {
-
-/// Ends the program when one test takes longer than a minute, and says which: a hung right-click is
-/// a fault that must not look like a slow machine.
-class Watchdog : public testing::EmptyTestEventListener {
- public:
-  Watchdog() {
-    std::thread([this] { Watch(); }).detach();
-  }
-
-  void OnTestStart(const testing::TestInfo& test) override {
-    std::snprintf(m_name, sizeof m_name, "%s.%s", test.test_suite_name(), test.name());
-    m_started = Now();
-  }
-  void OnTestEnd(const testing::TestInfo&) override { m_started = 0; }
-
- private:
-  static constexpr long long Limit = 60;  // seconds
-
-  static long long Now() {
-    return std::chrono::duration_cast<std::chrono::seconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-               .count() +
-           1;
-  }
-
-  [[noreturn]] void Watch() {
-    for (;;) {
-      std::this_thread::sleep_for(std::chrono::seconds(1));
-      const long long started = m_started;
-      if (started == 0 || Now() - started < Limit) continue;
-      std::fprintf(stderr, "watchdog: %s hangs\n", m_name);
-      std::fflush(stderr);
-      std::_Exit(3);
-    }
-  }
-
-  std::atomic<long long> m_started = 0;
-  char m_name[256] = "";
-};
-
-}  // namespace
+#include "common/Watchdog.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  testing::UnitTest::GetInstance()->listeners().Append(new Watchdog);
+  testing::UnitTest::GetInstance()->listeners().Append(new orvane::test::Watchdog);
   return RUN_ALL_TESTS();
 }
