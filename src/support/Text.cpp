@@ -20,6 +20,16 @@ wchar_t LowerCase(wchar_t c) {
   return c;
 }
 
+wchar_t UpperCase(wchar_t c) {
+  if (c == 0xFF) return 0x178;
+  for (const int distance : {1, 32, 80}) {
+    if (static_cast<int>(c) <= distance) continue;
+    const auto capital = static_cast<wchar_t>(c - distance);
+    if (LowerCase(capital) == c) return capital;
+  }
+  return c;
+}
+
 std::wstring LowerCase(std::wstring_view text) {
   std::wstring lower(text);
   for (wchar_t& character : lower) character = LowerCase(character);

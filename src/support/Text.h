@@ -9,6 +9,9 @@ namespace orvane {
 wchar_t LowerCase(wchar_t character);
 std::wstring LowerCase(std::wstring_view text);
 
+/// Upper case of what LowerCase knows.
+wchar_t UpperCase(wchar_t character);
+
 /// Without the blanks at both ends.
 std::wstring_view Trim(std::wstring_view text);
 /// Without the blanks at the end.
