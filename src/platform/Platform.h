@@ -2,14 +2,22 @@
 
 namespace orvane {
 
+class Clipboard;
 class Clock;
+class Dialogs;
+class FileOperations;
 class FileSystem;
+class Gdi;
+class Keyboard;
+class Launcher;
 class Locale;
 class Menus;
 class MessageBoxes;
+class Processes;
 class ProfileFiles;
 class Registry;
 class Shell;
+class ShellIcons;
 class SystemInfo;
 class Tcp;
 class Windows;
@@ -17,11 +25,19 @@ class Windows;
 /// Everything the system needs of Windows. Only the places where a program is put together see it
 /// whole; everybody else takes the few nouns he uses.
 struct Platform {
+  Clipboard& clipboard;
   Clock& clock;
+  Dialogs& dialogs;
+  FileOperations& operations;
   FileSystem& files;
+  Gdi& gdi;
+  ShellIcons& icons;
+  Keyboard& keyboard;
+  Launcher& launcher;
   Locale& locale;
   Menus& menus;
   MessageBoxes& boxes;
+  Processes& processes;
   ProfileFiles& profiles;
   Registry& registry;
   Shell& shell;
