@@ -18,13 +18,13 @@ struct Execution {
 
   std::uint32_t mask = 0;
   WindowHandle owner = WindowHandle::None;
-  std::wstring verb;
-  std::wstring file;
-  std::wstring parameters;
-  std::wstring directory;
+  std::wstring verb = {};
+  std::wstring file = {};
+  std::wstring parameters = {};
+  std::wstring directory = {};
   std::int32_t show = 5;  // SW_*
-  ItemIdList item;
-  std::wstring className;
+  ItemIdList item = {};
+  std::wstring className = {};
 };
 
 /// Hands things to the shell: documents, programs, folders.
