@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -22,6 +23,17 @@ class Effects {
  public:
   void Add(Effect effect) { m_effects.push_back(std::move(effect)); }
   const std::vector<Effect>& All() const { return m_effects; }
+
+  /// The last effect of the call whose first field is `text`; null without one.
+  Effect* FindLast(std::string_view call, const std::wstring& text) {
+    for (auto effect = m_effects.rbegin(); effect != m_effects.rend(); ++effect) {
+      if (effect->call == call && effect->fields.front().second == Effect::Value(text)) {
+        return &*effect;
+      }
+    }
+    return nullptr;
+  }
+
   void Clear() { m_effects.clear(); }
 
  private:

@@ -63,6 +63,7 @@ class Gdi : public orvane::Gdi {
   std::optional<Size> MeasureText(DeviceContext context, const std::wstring& text) override;
   std::optional<Size> DisplayFontCell() override;
   bool PaintIcon(DeviceContext context, IconHandle icon, Size size) override;
+  std::uint32_t LastError() override { return 8; }  // not enough memory
 
   // For tests: the desktop's looks.
   std::int32_t dpi = 96;

@@ -1,6 +1,6 @@
 #include "platform/memory/ShellIcons.h"
 
-#include "platform/memory/LowerCase.h"
+#include "support/Text.h"
 
 namespace orvane::memory {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/memory/LowerCase.h"
+#include "support/Text.h"
 
 namespace orvane::memory {
 namespace {
