@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 
 #include "menudata/clsOrvaneDataTools.h"
 #include "support/Trace.h"
@@ -39,11 +40,33 @@ std::wstring DoubleAmpersands(const std::wstring& name) {
   return doubled;
 }
 
+/// Stands in a record for a picture that nobody has seen yet.
+clsCollection::Node PictureToFetch(const NewMenuItem& item) {
+  auto node = std::make_shared<clsCollection>();
+  node->m_lKey = OwnerDrawMenu::OwnIcon;
+  node->m_szFilename = item.iconFile;
+  node->m_lData3 = item.fileName;
+  return node;
+}
+
+bool IsToFetch(const clsCollection::Node& picture) {
+  return picture && picture->m_lKey == OwnerDrawMenu::OwnIcon;
+}
+
+bool IsFolder(const clsOrvaneData* record) {
+  return record && !record->IsTypeFile();
+}
+
 }  // namespace
 
-OwnerDrawMenu::OwnerDrawMenu(const clsOptions& options, Menus& menus, Gdi& gdi, ShellIcons&,
-                             FileReader&, clsCollection& bitmaps, MenuItemLookup& lookup)
-    : m_options(options), m_menus(menus), m_gdi(gdi), m_bitmaps(bitmaps), m_lookup(lookup) {}
+OwnerDrawMenu::OwnerDrawMenu(const clsOptions& options, Menus& menus, Gdi& gdi, ShellIcons& icons,
+                             FileReader& files, clsCollection& bitmaps, MenuItemLookup& lookup)
+    : m_options(options),
+      m_menus(menus),
+      m_bitmaps(bitmaps),
+      m_lookup(lookup),
+      m_icons(gdi, icons, files, bitmaps),
+      m_painter(gdi) {}
 
 void OwnerDrawMenu::ShellMenu(MenuHandle menu) {
   m_shellMenu = menu;
@@ -68,7 +91,6 @@ bool OwnerDrawMenu::Insert(const NewMenuItem& item) {
   entry.caption = item.trimCaption
                       ? clsOrvaneDataTools::TrimCaption(item.caption, m_options.m_lShellMaxMenuText)
                       : item.caption;
-  entry.ownerDraw = m_options.m_bShellOwnerDraw && item.menu != m_shellMenu;
   if (item.fileName && entry.caption.find(L'&') != std::wstring::npos) {
     entry.caption = DoubleAmpersands(entry.caption);
     m_fileNames.insert(item.id);
@@ -77,19 +99,71 @@ bool OwnerDrawMenu::Insert(const NewMenuItem& item) {
   const bool shown = ShowsBitmap(item.bitmapKey, m_options.m_lShellShowIcons);
   const std::int32_t key = item.bitmapKey == DesignerIcon ? 1 : item.bitmapKey;
   Log(L"bUseCheckMarks=", shown, L"  lBitmapKey=", key);
+  entry.ownerDraw = m_options.m_bShellOwnerDraw && item.menu != m_shellMenu;
+  if (entry.ownerDraw) Log(L"Marked as ownerdraw");
+  Log(L"Use check marks=", shown);
+  if (shown) AddPicture(item, key, entry);
   return m_menus.Insert(item.menu, item.position, entry);
 }
 
-clsCollection::Node OwnerDrawMenu::StoredBitmap(std::int32_t key) const {
-  return m_bitmaps.ItemViaKey(key);
+void OwnerDrawMenu::AddPicture(const NewMenuItem& item, std::int32_t key, MenuEntry& entry) {
+  if (key == OwnIcon && entry.ownerDraw) {
+    if (item.record) item.record->m_oBitmap = PictureToFetch(item);
+    return;
+  }
+  const clsCollection::Node node =
+      key == OwnIcon ? m_icons.Find({item.iconFile, IsFolder(item.record), item.fileName},
+                                    m_painter.PictureSize())
+                     : m_bitmaps.ItemViaKey(key);
+  if (!node) {
+    Log(L"Bitmap not found!");
+    return;
+  }
+  if (item.record) item.record->m_oBitmap = node;
+  Log(L"ScaledBitmap=", Hex(node->m_lData), L"  NormalBitmap=", Hex(node->m_lData2));
+  entry.bitmap = ToHandle<BitmapHandle>(entry.ownerDraw ? node->m_lData2 : node->m_lData);
+  Log(L"Bitmap=", Hex(entry.bitmap));
 }
 
 BitmapHandle OwnerDrawMenu::Picture(clsOrvaneData& record) {
-  return record.m_oBitmap ? ToHandle<BitmapHandle>(record.m_oBitmap->m_lData2) : BitmapHandle::None;
+  clsCollection::Node& picture = record.m_oBitmap;
+  if (IsToFetch(picture))
+    picture = m_icons.Find({picture->m_szFilename, IsFolder(&record), picture->m_lData3 != 0},
+                           m_painter.PictureSize());
+  return picture ? ToHandle<BitmapHandle>(picture->m_lData2) : BitmapHandle::None;
 }
 
-bool OwnerDrawMenu::HandleMessage(std::uint32_t, std::intptr_t, std::intptr_t) {
-  return false;
+bool OwnerDrawMenu::HandleMessage(std::uint32_t message, std::intptr_t wParam,
+                                  std::intptr_t lParam) {
+  TraceScope scope(L"OwnerDrawMenu");
+  if (lParam == 0) return false;
+  try {
+    if (message == MenuMessage::MeasureItem) {
+      Measure(*reinterpret_cast<MeasureItem*>(lParam));
+      return true;
+    }
+    if (message == MenuMessage::DrawItem && wParam == 0) {
+      Draw(*reinterpret_cast<const DrawItem*>(lParam));
+      return true;
+    }
+    return false;
+  } catch (...) {
+    scope.Caught();
+    return true;
+  }
+}
+
+void OwnerDrawMenu::Measure(MeasureItem& item) {
+  std::wstring text = m_lookup.OwnerDrawMenu_GetCaption(item.id);
+  text.erase(text.find_last_not_of(L' ') + 1);
+  if (!m_fileNames.contains(item.id)) std::erase(text, L'&');
+  m_painter.Measure(item, text);
+}
+
+void OwnerDrawMenu::Draw(const DrawItem& item) {
+  std::wstring caption = m_lookup.OwnerDrawMenu_GetCaption(item.id);
+  if (m_fileNames.contains(item.id)) caption = DoubleAmpersands(caption);
+  m_painter.Draw(item, caption, m_lookup.OwnerDrawMenu_HasBitmap(item.id));
 }
 
 }  // namespace orvane

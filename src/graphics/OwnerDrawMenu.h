@@ -4,8 +4,10 @@
 #include <string>
 #include <unordered_set>
 
+#include "graphics/IconStore.h"
 #include "graphics/MenuItemLookup.h"
 #include "graphics/MenuItemMessages.h"
+#include "graphics/MenuPainter.h"
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneData.h"
 #include "platform/FileSystem.h"
@@ -48,7 +50,7 @@ class OwnerDrawMenu {
   bool AddMenuWithBitmap(const NewMenuItem& item);
 
   /// The picture to paint beside the record's entry, None without one. A file's icon is fetched
-  /// here the first time.
+  /// here the first time: of a long menu only what is on the screen is ever painted.
   BitmapHandle Picture(clsOrvaneData& record);
 
   /// Measures (lParam: address of a MeasureItem) or paints (of a DrawItem) one entry. False for
@@ -57,13 +59,16 @@ class OwnerDrawMenu {
 
  private:
   bool Insert(const NewMenuItem& item);
-  clsCollection::Node StoredBitmap(std::int32_t key) const;
+  void AddPicture(const NewMenuItem& item, std::int32_t key, MenuEntry& entry);
+  void Measure(MeasureItem& item);
+  void Draw(const DrawItem& item);
 
   const clsOptions& m_options;
   Menus& m_menus;
-  Gdi& m_gdi;
   clsCollection& m_bitmaps;
   MenuItemLookup& m_lookup;
+  IconStore m_icons;
+  MenuPainter m_painter;
   MenuHandle m_shellMenu = MenuHandle::None;
   std::unordered_set<std::int32_t> m_fileNames;  // entries whose caption holds "&" as a letter
 };

@@ -136,6 +136,9 @@ class Gdi {
 
   /// Draws the icon with its mask at the context's top left.
   virtual bool PaintIcon(DeviceContext context, IconHandle icon, Size size) = 0;
+
+  /// Windows error code of the last call, if that failed.
+  virtual std::uint32_t LastError() = 0;
 };
 
 using UniqueContext = UniqueResource<Gdi, DeviceContext, &Gdi::FreeContext>;

@@ -50,6 +50,7 @@ class Gdi : public orvane::Gdi {
   std::optional<Size> MeasureText(DeviceContext context, const std::wstring& text) override;
   std::optional<Size> DisplayFontCell() override;
   bool PaintIcon(DeviceContext context, IconHandle icon, Size size) override;
+  std::uint32_t LastError() override;
 };
 
 }  // namespace orvane::win32

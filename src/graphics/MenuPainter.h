@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "graphics/MenuItemMessages.h"
+#include "platform/Gdi.h"
+
+namespace orvane {
+
+/// Measures and paints owner-drawn menu entries. Its sizes are those of an unscaled screen (96 dots
+/// per inch) and grow with the screen on which the menu opens; its colours are the system's at the
+/// moment of painting.
+class MenuPainter {
+ public:
+  explicit MenuPainter(Gdi& gdi) : m_gdi(gdi) {}
+
+  /// `text` is what will be read: no marks in it.
+  void Measure(MeasureItem& item, const std::wstring& text);
+
+  /// In the caption "&" underlines the next letter. The picture may be None.
+  void Draw(const DrawItem& item, const std::wstring& caption, BitmapHandle picture);
+
+  /// Side of a menu picture.
+  std::int32_t PictureSize() { return Pixels(16); }
+
+ private:
+  std::int32_t Pixels(std::int32_t unscaled);
+  void SetDpi(std::int32_t dpi);
+  FontHandle Font();
+  void DrawCaption(const DrawItem& item, const Rect& area, const std::wstring& caption,
+                   bool hasPicture);
+  void DrawPicture(const DrawItem& item, const Rect& area, BitmapHandle picture);
+
+  Gdi& m_gdi;
+  std::int32_t m_dpi = 0;  // 0 until it is asked for
+  UniqueFont m_menuFont;
+};
+
+}  // namespace orvane
