@@ -41,7 +41,8 @@ class Launcher {
 
   /// Starts a program with a normal, focused window. `program` is its full path and decides alone
   /// what is started; `commandLine` is what the program is given, its own name included. An empty
-  /// directory means the current one.
+  /// directory means the current one. False also for a program without a full path, which would be
+  /// looked for in the current directory.
   virtual bool Start(const std::wstring& program, const std::wstring& commandLine,
                      const std::wstring& directory) = 0;
 

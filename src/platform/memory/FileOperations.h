@@ -17,6 +17,7 @@ class FileOperations : public orvane::FileOperations {
                    std::uint16_t flags) override {
     if (m_faults.Hit()) return AccessDenied;
     if (from.Count() == 0) return 0;
+    if (HasWildcard(from)) return InvalidName;
     std::vector<std::wstring> names;
     names.reserve(from.Count());
     for (auto rest = from.All(); !rest.empty();) names.emplace_back(FileNames::Take(rest));

@@ -1,5 +1,7 @@
 #include "platform/memory/Launcher.h"
 
+#include "support/FullPath.h"
+
 namespace orvane::memory {
 namespace {
 
@@ -37,7 +39,7 @@ bool Launcher::OpenEx(const Execution& execution) {
 
 bool Launcher::Start(const std::wstring& program, const std::wstring& commandLine,
                      const std::wstring& directory) {
-  if (m_faults.Hit() || failures.contains(program)) return false;
+  if (m_faults.Hit() || !IsFullPath(program) || failures.contains(program)) return false;
   m_effects.Add({"CreateProcess", {{"command", commandLine}, {"directory", directory}}});
   return true;
 }
