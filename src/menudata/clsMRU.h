@@ -22,7 +22,7 @@ class clsMRU {
   const std::wstring& Path() const { return m_path; }
   void Path(std::wstring path) { m_path = std::move(path); }  // with a backslash at its end
   std::int32_t MaxFileCount() const { return static_cast<std::int32_t>(m_entries.size()); }
-  /// Brought between 0 and Limit. Keeps the entries that fit.
+  /// Brought between 0 and Limit. Keeps the entries that fit, and the count as it is.
   void MaxFileCount(std::int32_t maximum);
   std::int32_t FileCount() const { return m_count; }
   const std::wstring& File(std::int32_t index) const;  // 1-based; Error 9 beyond the slots
@@ -47,6 +47,7 @@ class clsMRU {
 
  private:
   std::int32_t Find(const std::wstring& text) const;
+  std::int32_t Used() const { return m_count < MaxFileCount() ? m_count : MaxFileCount(); }
 
   Registry& m_registry;
   std::wstring m_path;

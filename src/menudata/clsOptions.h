@@ -97,9 +97,6 @@ class clsOptions {
 
  private:
   bool Shows(std::int32_t flag) const { return (m_lShellShowFlags & flag) > 0; }
-  void StartDebugTrace(const SettingsServices& services) const;
-  void StartTimingTrace(const SettingsServices& services) const;
-  void LogSettings() const;
 };
 
 }  // namespace orvane

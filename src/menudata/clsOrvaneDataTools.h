@@ -51,8 +51,6 @@ class clsOrvaneDataTools {
   std::wstring GetDesignerDescription(const clsOrvaneData& item) const;
 
  private:
-  std::wstring SpecialFolder(const clsOrvaneData& item) const;
-
   const clsOptions& m_options;
   clsTrace& m_debug;
   Shell& m_shell;
