@@ -21,7 +21,7 @@ std::size_t FindOpening(std::wstring_view script, std::size_t start) {
 }
 
 void AddLiteral(clsCollection& steps, std::wstring_view text) {
-  steps.Add({}, 0, {}, std::wstring(text));
+  steps.Add({}, 0, {}, text);
 }
 
 /// Adds the step of one token, brackets included in `token`. Throws when a pause is no number.

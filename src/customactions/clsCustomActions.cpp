@@ -1,0 +1,180 @@
+#include "customactions/clsCustomActions.h"
+
+#include <algorithm>
+
+#include "customactions/ActionsFile.h"
+#include "customactions/WindowMatch.h"
+#include "customactions/clsProcess.h"
+#include "platform/ProfileFiles.h"
+#include "support/FullPath.h"
+#include "support/Number.h"
+#include "support/Trace.h"
+
+namespace orvane {
+namespace {
+
+/// A value is one line: a line break in it would start keys and sections of its own.
+std::wstring OneLine(std::wstring text) {
+  std::replace_if(
+      text.begin(), text.end(), [](wchar_t c) { return c == L'\r' || c == L'\n' || c == L'\0'; },
+      L' ');
+  return text;
+}
+
+std::int32_t Number(const ActionsFile& file, const std::wstring& id, const wchar_t* key,
+                    const wchar_t* fallback) {
+  return ParseNumber(file.GetProfileValue(id, key, fallback));
+}
+
+}  // namespace
+
+const std::wstring& clsCustomActions::PathOr(const std::wstring& szPath) const {
+  return szPath.empty() ? Path : szPath;
+}
+
+std::int32_t clsCustomActions::LoadEx(std::vector<std::wstring>& szSectionsArray,
+                                      std::int32_t lType, const std::wstring& szPath,
+                                      bool bIgnoreDisabled) {
+  TraceScope scope(L"LoadEx");
+  const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
+  return LoadEx(szSectionsArray, lType, file, bIgnoreDisabled);
+}
+
+std::int32_t clsCustomActions::LoadEx(std::vector<std::wstring>& szSectionsArray,
+                                      std::int32_t lType, const ActionsFile& file,
+                                      bool bIgnoreDisabled) {
+  clsCollection actions;
+  for (const std::wstring& id : file.Ids()) {
+    if (lType != TypeAny && Number(file, id, L"Type", L"-1") != lType) continue;
+    if (bIgnoreDisabled && !(Number(file, id, L"Options", L"0") & OptionEnabled)) continue;
+    actions.Add(id, Number(file, id, L"Order", L"0"));
+  }
+  // The sort gives the largest Order first and equal ones from the file's end; read from its own
+  // end it ascends, with equal ones as they stand in the file.
+  const std::vector<std::int32_t> positions = actions.Sort_Bubble(L"m_lKey");
+  szSectionsArray.clear();
+  for (std::size_t i = positions.size(); i-- > 1;)
+    szSectionsArray.push_back(actions.Item(positions[i])->m_szKey);
+  return actions.Count();
+}
+
+std::int32_t clsCustomActions::Count(std::int32_t lType, const std::wstring& szPath) {
+  TraceScope scope(L"Count");
+  const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
+  const std::vector<std::wstring> ids = file.Ids();
+  return static_cast<std::int32_t>(std::count_if(ids.begin(), ids.end(), [&](const auto& id) {
+    return lType == TypeAny || Number(file, id, L"Type", L"-1") == lType;
+  }));
+}
+
+bool clsCustomActions::Load(const std::wstring& szId, const std::wstring& szPath) {
+  TraceScope scope(L"Load");
+  return Load(szId, ActionsFile(m_services.files, m_services.codePage, PathOr(szPath)));
+}
+
+bool clsCustomActions::Load(const std::wstring& szId, const ActionsFile& file) {
+  const auto text = [&](const wchar_t* key) { return file.GetProfileValue(szId, key, L""); };
+  const auto number = [&](const wchar_t* key, const wchar_t* fallback) {
+    return ParseNumber16(file.GetProfileValue(szId, key, fallback));
+  };
+  m_szId = szId;
+  m_lType = number(L"Type", L"-1");
+  m_lOrder = number(L"Order", L"0");
+  m_szDescription = text(L"Description");
+  m_szExe = text(L"Exe");
+  m_lExeMatch = number(L"ExeMatch", L"0");
+  m_szClass = text(L"Class");
+  m_lClassMatch = number(L"ClassMatch", L"0");
+  m_szCaption = text(L"Caption");
+  m_lCaptionMatch = number(L"CaptionMatch", L"0");
+  m_szActions = text(L"Actions");
+  m_lOptions = number(L"Options", L"0");
+  return !m_szDescription.empty();
+}
+
+void clsCustomActions::Write(const std::wstring& szId, const wchar_t* key,
+                             const std::wstring& value, const std::wstring& szPath) {
+  const std::wstring& path = PathOr(szPath);
+  if (IsFullPath(path)) m_services.profiles.Write(path, OneLine(szId), key, OneLine(value));
+}
+
+void clsCustomActions::Save(const std::wstring& szPath) {
+  TraceScope scope(L"Save");
+  Delete(m_szId, szPath);  // so that the keys stand in this order whatever was there
+  const auto write = [&](const wchar_t* key, const std::wstring& value) {
+    Write(m_szId, key, value, szPath);
+  };
+  write(L"Type", std::to_wstring(m_lType));
+  write(L"Order", std::to_wstring(m_lOrder));
+  write(L"Description", m_szDescription);
+  write(L"Exe", m_szExe);
+  write(L"ExeMatch", std::to_wstring(m_lExeMatch));
+  write(L"Caption", m_szCaption);
+  write(L"CaptionMatch", std::to_wstring(m_lCaptionMatch));
+  write(L"Class", m_szClass);
+  write(L"ClassMatch", std::to_wstring(m_lClassMatch));
+  write(L"Actions", m_szActions);
+  write(L"Options", std::to_wstring(m_lOptions));
+}
+
+void clsCustomActions::Delete(const std::wstring& szId, const std::wstring& szPath) {
+  TraceScope scope(L"Delete");
+  const std::wstring& path = PathOr(szPath);
+  if (IsFullPath(path)) m_services.profiles.Write(path, OneLine(szId), {}, {});
+}
+
+void clsCustomActions::Resequence(const std::vector<std::wstring>& szIds,
+                                  const std::wstring& szPath) {
+  TraceScope scope(L"Resequence");
+  for (std::size_t i = 1; i < szIds.size(); ++i)
+    Write(szIds[i], L"Order", std::to_wstring(i), szPath);
+}
+
+WindowHandle clsCustomActions::MatchWindow(WindowHandle hWnd, const std::wstring& szPath) {
+  TraceScope scope(L"MatchWindow");
+  const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
+  std::vector<std::wstring> ids;
+  if (LoadEx(ids, TypeWindow, file, true) == 0) return WindowHandle::None;
+
+  const MatchTarget target = LookAtWindow(m_services.windows, m_services.process, hWnd);
+  const bool matched = std::any_of(ids.begin(), ids.end(), [&](const std::wstring& id) {
+    return MatchWindow_(id, file, target);
+  });
+  const WindowHandle result = matched ? hWnd : WindowHandle::None;
+  Log(L"MatchWindow=", Hex(result));
+  return result;
+}
+
+bool clsCustomActions::MatchWindow_(const std::wstring& szId, const ActionsFile& file,
+                                    const MatchTarget& target) {
+  TraceScope scope(L"MatchWindow_");
+  Load(szId, file);
+  Log(L"m_szId=", m_szId, L"  m_szDescription=", m_szDescription);
+  const bool used = m_lExeMatch > 0 || m_lCaptionMatch > 0 || m_lClassMatch > 0;
+  const bool matched = used && (m_lExeMatch <= 0 || MatchExe(target)) &&
+                       (m_lCaptionMatch <= 0 || MatchCaption(target)) &&
+                       (m_lClassMatch <= 0 || MatchClass(target));
+  Log(L"MatchWindow_=", matched);
+  return matched;
+}
+
+/// The pattern is held against the window's own program, not against any that happens to run.
+bool clsCustomActions::MatchExe(const MatchTarget& target) const {
+  return MatchString(MatchText(m_szExe), target.exe, m_lExeMatch);
+}
+
+bool clsCustomActions::MatchCaption(const MatchTarget& target) const {
+  const MatchText pattern(m_szCaption);
+  return std::any_of(target.chain.begin(), target.chain.end(), [&](const auto& window) {
+    return MatchString(pattern, window.caption, m_lCaptionMatch);
+  });
+}
+
+bool clsCustomActions::MatchClass(const MatchTarget& target) const {
+  const MatchText pattern(m_szClass);
+  return std::any_of(target.chain.begin(), target.chain.end(), [&](const auto& window) {
+    return MatchString(pattern, window.className, m_lClassMatch);
+  });
+}
+
+}  // namespace orvane
