@@ -1,5 +1,7 @@
 #include "support/Text.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 wchar_t LowerCase(wchar_t c) {
@@ -34,6 +36,17 @@ std::wstring LowerCase(std::wstring_view text) {
   std::wstring lower(text);
   for (wchar_t& character : lower) character = LowerCase(character);
   return lower;
+}
+
+std::wstring UpperCase(std::wstring_view text) {
+  std::wstring upper(text);
+  for (wchar_t& character : upper) character = UpperCase(character);
+  return upper;
+}
+
+bool EqualIgnoringCase(std::wstring_view a, std::wstring_view b) {
+  return std::ranges::equal(
+      a, b, [](wchar_t x, wchar_t y) { return x == y || LowerCase(x) == LowerCase(y); });
 }
 
 std::wstring_view TrimEnd(std::wstring_view text) {

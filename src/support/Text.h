@@ -11,6 +11,10 @@ std::wstring LowerCase(std::wstring_view text);
 
 /// Upper case of what LowerCase knows.
 wchar_t UpperCase(wchar_t character);
+std::wstring UpperCase(std::wstring_view text);
+
+/// Whether the texts differ in case at most.
+bool EqualIgnoringCase(std::wstring_view a, std::wstring_view b);
 
 /// Without the blanks at both ends.
 std::wstring_view Trim(std::wstring_view text);
