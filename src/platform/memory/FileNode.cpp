@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "platform/FileSystem.h"
-#include "platform/memory/Utf8.h"
 #include "support/Text.h"
+#include "support/Utf8.h"
 
 namespace orvane::memory {
 

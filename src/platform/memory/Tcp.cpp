@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/memory/Utf8.h"
+#include "support/Utf8.h"
 #endif
 
 namespace orvane::memory {

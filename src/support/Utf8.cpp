@@ -1,8 +1,8 @@
-#include "platform/memory/Utf8.h"
+#include "support/Utf8.h"
 
 #include <cstdint>
 
-namespace orvane::memory {
+namespace orvane {
 
 namespace {
 
@@ -83,4 +83,4 @@ std::optional<std::wstring> FromUtf8(std::string_view bytes) {
   return text;
 }
 
-}  // namespace orvane::memory
+}  // namespace orvane
