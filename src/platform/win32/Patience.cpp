@@ -1,0 +1,48 @@
+#include "platform/win32/Patience.h"
+
+#include "platform/win32/UniqueHandle.h"
+
+namespace orvane::win32 {
+
+namespace {
+
+struct Task {
+  std::function<void()> work;
+  UniqueKernelHandle done;
+  HMODULE module = nullptr;
+};
+
+DWORD WINAPI RunTask(void* parameter) {
+  HMODULE module = nullptr;
+  {
+    const std::unique_ptr<std::shared_ptr<Task>> task(
+        static_cast<std::shared_ptr<Task>*>(parameter));
+    module = (*task)->module;
+    (*task)->work();
+    SetEvent((*task)->done.get());
+  }
+  FreeLibraryAndExitThread(module, 0);
+}
+
+}  // namespace
+
+bool RunWithPatience(std::function<void()> work, DWORD patience) {
+  constexpr SIZE_T StackSize = 256 << 10;
+  const auto task = std::make_shared<Task>();
+  task->work = std::move(work);
+  task->done.reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  if (!task->done) return false;
+  auto parameter = std::make_unique<std::shared_ptr<Task>>(task);
+  // The DLL must not be unloaded under the thread's feet.
+  if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                          reinterpret_cast<const wchar_t*>(&RunTask), &task->module)) {
+    return false;
+  }
+  const UniqueKernelHandle thread(CreateThread(nullptr, StackSize, &RunTask, parameter.get(),
+                                               STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
+  if (!thread) return FreeLibrary(task->module), false;
+  parameter.release();
+  return WaitForSingleObject(task->done.get(), patience) == WAIT_OBJECT_0;
+}
+
+}  // namespace orvane::win32
