@@ -39,8 +39,8 @@ WindowHandle GetRootOfficeWindow(Windows& windows, WindowHandle window) {
 
 bool IsIE(Windows& windows, WindowHandle window) {
   TraceScope scope(L"IsIE");
-  const WindowHandle found = FirstOnTheWayUp(
-      windows, window, [](const std::wstring& name) { return name == L"ieframe"; });
+  const WindowHandle found =
+      FirstOnTheWayUp(windows, window, [](const std::wstring& name) { return name == L"ieframe"; });
   const bool isIE = found != WindowHandle::None;
   Log(L"IsIE=", isIE);
   return isIE;

@@ -15,10 +15,16 @@ ModuleGlobals::ModuleGlobals(const Platform& platform)
       g_HistoryMRU(platform.registry),
       g_QuickAccessMRU(platform.registry),
       g_CopyToMRU(platform.registry),
-      tools(g_Options, g_Debug, platform.shell) {
+      tools(g_Options, g_Debug, platform.shell),
+      g_oProcess(platform.processes, platform.system),
+      actionServices{platform.files,  platform.profiles, platform.windows,
+                     g_oProcess,      platform.keyboard, platform.clock,
+                     platform.locale, platform.boxes,    codePage} {
   ThreadState::SetCurrent(&threadState);
 }
 
-ModuleGlobals::~ModuleGlobals() { ThreadState::SetCurrent(nullptr); }
+ModuleGlobals::~ModuleGlobals() {
+  ThreadState::SetCurrent(nullptr);
+}
 
 }  // namespace orvane

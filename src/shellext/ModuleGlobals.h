@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "customactions/clsCustomActions.h"
+#include "customactions/clsProcess.h"
 #include "menudata/clsMRU.h"
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneDataTools.h"
@@ -31,6 +33,8 @@ struct ModuleGlobals {
   clsMRU g_QuickAccessMRU;
   clsMRU g_CopyToMRU;
   clsOrvaneDataTools tools;
+  clsProcess g_oProcess;
+  ActionServices actionServices;
   std::int32_t g_lReferenceCount = 0;  // live handlers
   std::wstring g_szRootMenuCaption;
 };

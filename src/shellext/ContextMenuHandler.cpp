@@ -1,0 +1,372 @@
+#include "shellext/ContextMenuHandler.h"
+
+#include <limits>
+#include <utility>
+
+#include "commands/HostWindow.h"
+#include "customactions/clsCustomActions.h"
+#include "graphics/MenuBitmaps.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SystemInfo.h"
+#include "shellext/BuiltInMenu.h"
+#include "shellext/CaptionSearch.h"
+#include "shellext/DefinitionMenu.h"
+#include "support/ProductName.h"
+#include "support/Text.h"
+#include "support/Trace.h"
+
+namespace orvane {
+namespace {
+
+constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
+constexpr const wchar_t* HistoryKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
+constexpr const wchar_t* QuickAccessKey =
+    L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
+constexpr const wchar_t* CopyToKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\";
+constexpr std::int32_t CopyToCount = 7;
+
+constexpr std::int16_t ReadTimer = 1;
+constexpr std::int32_t RootBitmap = 1;
+
+std::wstring DescribeMenu(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t idCmdFirst,
+                          std::int32_t idCmdLast, std::uint32_t uFlags) {
+  return L"hMenu=" + Hex(hMenu) + L"  indexMenu=" + std::to_wstring(indexMenu) + L"  idCmdFirst=" +
+         std::to_wstring(idCmdFirst) + L"  idCmdLast=" + std::to_wstring(idCmdLast) + L"  uFlags=" +
+         std::to_wstring(uFlags);
+}
+
+void LogMessage(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam) {
+  Log(L"uMsg=", Hex(static_cast<std::int32_t>(uMsg)), L"  wParam=",
+      Hex(static_cast<std::int32_t>(wParam)), L"  lParam=", Hex(static_cast<std::int32_t>(lParam)));
+}
+
+}  // namespace
+
+ContextMenuHandler::ContextMenuHandler(ModuleGlobals& globals)
+    : m_globals(globals),
+      m_drawing(globals.g_Options, globals.platform.menus, globals.platform.gdi,
+                globals.platform.icons, globals.platform.files, m_state.m_colBitmaps, *this),
+      m_writer(globals, m_state, m_drawing),
+      m_dynamic(globals, m_state, m_writer) {
+  UserControl_Initialize();
+}
+
+ContextMenuHandler::~ContextMenuHandler() {
+  UserControl_Terminate();
+}
+
+void ContextMenuHandler::UserControl_Initialize() {
+  // The settings come first: they switch the trace on that logs the rest.
+  const Platform& platform = m_globals.platform;
+  m_globals.g_Options.Reg_Load({platform.registry, platform.files, platform.boxes, platform.system,
+                                platform.clock, platform.locale},
+                               SettingsKey);
+  TraceScope scope(L"UserControl_Initialize");
+  const clsOptions& options = m_globals.g_Options;
+  try {
+    Log(L"App.hInstance=", Hex(m_globals.platform.system.Module()));
+    m_globals.g_QuickAccessMRU.Path(QuickAccessKey);
+    m_globals.g_HistoryMRU.Path(HistoryKey);
+    m_globals.g_CopyToMRU.Path(CopyToKey);
+    m_globals.g_HistoryMRU.Load(options.m_lShellMaxHistoryMRU);
+    m_globals.g_QuickAccessMRU.Load(options.m_lShellMaxQuickAccessMRU);
+    m_globals.g_CopyToMRU.Load(CopyToCount);
+    if (options.m_lShellShowIcons > clsOptions::OptionLevel_None)
+      LoadMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
+  } catch (...) {
+    scope.Caught();
+  }
+  if (++m_globals.g_lReferenceCount < 2 && !options.m_szShellCustomActionsFile.empty())
+    CountWindowActions();
+  else
+    Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
+}
+
+// A spoilt actions file costs the actions, not the menu.
+void ContextMenuHandler::CountWindowActions() noexcept {
+  try {
+    clsCustomActions actions(m_globals.actionServices);
+    m_state.m_lNumWindowActions =
+        actions.Count(clsCustomActions::TypeWindow, m_globals.g_Options.m_szShellCustomActionsFile);
+  } catch (...) {
+    const PendingError error = CaughtError();
+    Log(L"Error: ", error.number, L" - ", error.description);
+  }
+  Log(L"m_lNumWindowActions=", m_state.m_lNumWindowActions);
+}
+
+void ContextMenuHandler::UserControl_Terminate() {
+  TraceScope scope(L"UserControl_Terminate");
+  try {
+    Log(L"Killing bitmaps");
+    DeleteMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
+    Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
+    if (--m_globals.g_lReferenceCount > 0) return;
+    DestroyDynamicMenus();
+    m_globals.g_QuickAccessMRU.Save();
+    m_globals.g_HistoryMRU.Save();
+  } catch (...) {
+    scope.Caught();
+  }
+}
+
+// As a rule the shell has destroyed its menu by now, and these with it.
+void ContextMenuHandler::DestroyDynamicMenus() {
+  Menus& menus = m_globals.platform.menus;
+  for (const auto& node : m_state.m_colDynamicMenus) {
+    const auto menu = ToHandle<MenuHandle>(node->m_lKey);
+    if (menus.Exists(menu)) menus.Destroy(menu);
+  }
+}
+
+std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
+                                                          std::shared_ptr<DataObject> pSelectionObj,
+                                                          std::int32_t hKeyProgID) noexcept {
+  TraceScope scope(L"IShellExtInit_Initialize");
+  try {
+    Log(L"pidlFolder=", Hex(pidlFolder.bytes.data()), L"  hKeyProgID=", hKeyProgID);
+    const std::int32_t result =
+        m_state.selection.Capture(m_globals.platform.shell, m_globals.platform.files,
+                                  std::move(pidlFolder), std::move(pSelectionObj));
+    Log(L"CurrentFolder=", m_state.selection.CurrentFolder);
+    Log(L"CurrentFile=", m_state.selection.CurrentFile);
+    return result;
+  } catch (...) {
+    scope.Caught();
+    return 0;
+  }
+}
+
+std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMenu,
+                                                                 std::int32_t indexMenu,
+                                                                 std::int32_t idCmdFirst,
+                                                                 std::int32_t idCmdLast,
+                                                                 std::uint32_t uFlags) noexcept {
+  TraceScope scope(L"IContextMenu_QueryContextMenuEx");
+  std::int32_t result = 0;
+  try {
+    const std::wstring call = DescribeMenu(hMenu, indexMenu, idCmdFirst, idCmdLast, uFlags);
+    Log(call);
+    const std::int64_t commands = std::int64_t{idCmdLast} - idCmdFirst;
+    if (m_globals.g_Options.m_bDebugShowWindowsMenuInfo)
+      Tell(call + L"\r\n\r\nMaximum Number of Commands = " + std::to_wstring(commands),
+           MessageBoxes::Icon::Information);
+    switch (Participation(hMenu, indexMenu, idCmdFirst, idCmdLast)) {
+      case Part::None:
+        break;
+      case Part::Count:
+        result = m_state.ids.Count();
+        break;
+      case Part::Build:
+        BuildMenu(hMenu, indexMenu, idCmdFirst, idCmdLast);
+        result = m_state.ids.Count();
+    }
+  } catch (...) {
+    scope.Caught();
+    result = m_state.ids.Count();  // what was inserted must stay ours
+  }
+  Log(L"RV=", result);
+  return result;
+}
+
+/// Whether this handler adds to the menu, or only answers.
+ContextMenuHandler::Part ContextMenuHandler::Participation(MenuHandle hMenu, std::int32_t indexMenu,
+                                                           std::int32_t idCmdFirst,
+                                                           std::int32_t idCmdLast) {
+  const clsOptions& options = m_globals.g_Options;
+  Log(L"m_bShellEnable=", options.m_bShellEnable);
+  if (!options.m_bShellEnable) return Part::None;
+  if (std::int64_t{idCmdLast} - idCmdFirst < 1) {
+    Tell(L"Windows reports that you cannot have any more menu items! (" +
+             std::to_wstring(idCmdFirst) + L" : " + std::to_wstring(idCmdLast) + L")",
+         MessageBoxes::Icon::Exclamation);
+    return Part::None;
+  }
+  if (!options.m_bShellShowInIE && IsIE(m_globals.platform.windows.Active())) return Part::Count;
+  if (m_globals.g_lReferenceCount > 1 &&
+      IsCaptionInMenu(m_globals.platform.menus, m_globals.g_szRootMenuCaption, hMenu, indexMenu)) {
+    Log(L"In menu alredy!");
+    return Part::None;
+  }
+  return Part::Build;
+}
+
+void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
+                                   std::int32_t idCmdFirst, std::int32_t idCmdLast) {
+  const clsOptions& options = m_globals.g_Options;
+  Log(L"m_bShellIgnoreBoundsCheck=", options.m_bShellIgnoreBoundsCheck);
+  if (options.m_bShellIgnoreBoundsCheck) {
+    idCmdLast = std::numeric_limits<std::int32_t>::max();
+    Log(L"idCmdLast=", idCmdLast);
+  }
+  m_state.ids = CommandIds(idCmdFirst, idCmdLast);
+  m_state.m_colMenuItems.Clear();
+  // The submenus of an earlier menu belong to that menu; only this one's are filled from now on.
+  m_state.m_colDynamicMenus.Clear();
+  m_state.m_hMenu = hMenu;
+  m_state.m_lMenuPosition = indexMenu;
+  UniqueMenu root = m_writer.CreatePopup();
+  m_state.m_hRootMenu = root.get();
+  Log(L"m_hRootMenu=", Hex(root.get()));
+  m_drawing.ShellMenu(hMenu);
+
+  const MenuWriter::Target shellMenu{hMenu, &m_state.m_lMenuPosition};
+  m_writer.InsertSeparator(shellMenu);
+  if (options.m_bDebugEnableInMenu) InsertDebugSwitch();
+  const std::int32_t rootPosition = m_state.m_lMenuPosition;
+  if (!CreateMenu()) return;
+  InsertRoot(std::move(root), rootPosition);
+  if (m_state.m_colMenuItems.Count() == 0) {
+    Log(L"Nothing in the data!");
+    return;
+  }
+  const auto& first = static_cast<const clsOrvaneData&>(*m_state.m_colMenuItems.Item(1)->m_oData);
+  Log(L"Root=", first.Caption());
+  m_writer.InsertSeparator(shellMenu);
+  if (m_state.m_colDynamicMenus.Count() > 0) ReserveDynamicIds();
+}
+
+void ContextMenuHandler::InsertDebugSwitch() {
+  MenuEntry entry;
+  entry.caption = m_globals.g_Options.m_bDebugEnable ? L"Disable debugging" : L"Enable debugging";
+  entry.id = static_cast<std::uint32_t>(m_state.ids.Take());
+  m_globals.platform.menus.Insert(m_state.m_hMenu, m_state.m_lMenuPosition++, entry);
+}
+
+void ContextMenuHandler::InsertRoot(UniqueMenu root, std::int32_t position) {
+  if (Trim(m_globals.g_szRootMenuCaption).empty()) m_globals.g_szRootMenuCaption = ProductName;
+  MenuEntry entry;
+  entry.caption = m_globals.g_szRootMenuCaption;
+  entry.submenu = root.get();
+  if (const auto bitmap = m_state.m_colBitmaps.ItemViaKey(RootBitmap))
+    entry.bitmap = ToHandle<BitmapHandle>(bitmap->m_lData);
+  if (!m_globals.platform.menus.Insert(m_state.m_hMenu, position, entry)) return;
+  root.release();
+  ++m_state.m_lMenuPosition;
+}
+
+void ContextMenuHandler::ReserveDynamicIds() {
+  Log(L"Dynamic menu's created ... allocating all available id's");
+  Log(L"Before m_lMenuCmdId=", m_state.ids.Next());
+  m_state.ids.ReserveDynamic();
+  Log(L"After m_lMenuCmdId=", m_state.ids.Next());
+}
+
+bool ContextMenuHandler::CreateMenu() {
+  TraceScope scope(L"CreateMenu");
+  bool result = false;
+  try {
+    if (m_globals.g_Options.m_bTimingEnable) m_globals.g_Timing.TimerStart(ReadTimer);
+    Log(L"Opening: ", m_globals.g_Options.m_szShellConfigFile);
+    Log(L"StartCmdIndex=", m_state.ids.Next());
+    result = DefinitionMenu(m_globals, m_state, m_writer).Read();
+    if (result) BuiltInMenu(m_globals, m_state, m_writer).Add();
+  } catch (...) {
+    scope.Caught();
+    const PendingError& error = m_globals.threadState.pending;
+    Log(L"Error: ", error.number, L" - ", error.description);
+    result = false;
+  }
+  Log(L"Read=", m_state.m_colMenuItems.Count(), L"  Num Commands=",
+      m_state.ids.Next() - m_state.ids.First());
+  Log(L"RV=", result);
+  StopReadTimer();
+  return result;
+}
+
+void ContextMenuHandler::StopReadTimer() noexcept {
+  if (!m_globals.g_Options.m_bTimingEnable) return;
+  try {
+    m_globals.g_Timing.TimerStop(L"ReadConfig", ReadTimer);
+  } catch (...) {
+    // The tick counter wrapped around in between; there is no time to log.
+  }
+}
+
+void ContextMenuHandler::Tell(const std::wstring& text, MessageBoxes::Icon icon) {
+  m_globals.platform.boxes.Show(text, g_szAppTitle, icon);
+}
+
+void ContextMenuHandler::IContextMenu2_HandleMenuMsg(std::uint32_t uMsg, std::intptr_t wParam,
+                                                     std::intptr_t lParam) noexcept {
+  TraceScope scope(L"IContextMenu2_HandleMenuMsg");
+  LogMessage(uMsg, wParam, lParam);
+}
+
+void ContextMenuHandler::IContextMenu3_HandleMenuMsg2(std::uint32_t uMsg, std::intptr_t wParam,
+                                                      std::intptr_t lParam,
+                                                      std::intptr_t* plResult) noexcept {
+  TraceScope scope(L"IContextMenu3_HandleMenuMsg2");
+  try {
+    LogMessage(uMsg, wParam, lParam);
+    if (!m_drawing.HandleMessage(uMsg, wParam, lParam) && uMsg == MenuMessage::InitMenuPopup)
+      m_dynamic.Open(ToHandle<MenuHandle>(static_cast<std::int32_t>(wParam)));
+  } catch (...) {
+    scope.Caught();
+  }
+  if (plResult) *plResult = 0;
+}
+
+CommandContext ContextMenuHandler::Context() const {
+  const Selection& selection = m_state.selection;
+  return {m_globals.platform,      m_globals.codePage,      m_globals.actionServices,
+          m_globals.g_Options,     m_globals.g_HistoryMRU,  m_globals.g_QuickAccessMRU,
+          m_globals.g_CopyToMRU,   m_globals.tools,         m_state.m_colMenuItems,
+          m_state.ids.First(),     selection.m_pDataObject, selection.m_szSelectedItem,
+          selection.CurrentFolder, selection.CurrentFile,   m_state.m_lNumWindowActions};
+}
+
+std::int32_t ContextMenuHandler::IContextMenu_InvokeCommand(const InvokeRequest& request) {
+  return orvane::IContextMenu_InvokeCommand(Context(), request);
+}
+
+CommandText ContextMenuHandler::IContextMenu_GetCommandString(const TextRequest& request) const {
+  return orvane::IContextMenu_GetCommandString(Context(), request);
+}
+
+WindowHandle ContextMenuHandler::GetRootExplorerWindow(WindowHandle hWnd) {
+  return orvane::GetRootExplorerWindow(m_globals.platform.windows, hWnd);
+}
+
+WindowHandle ContextMenuHandler::GetRootOfficeWindow(WindowHandle hWnd) {
+  return orvane::GetRootOfficeWindow(m_globals.platform.windows, hWnd);
+}
+
+bool ContextMenuHandler::IsIE(WindowHandle hWnd) {
+  return orvane::IsIE(m_globals.platform.windows, hWnd);
+}
+
+bool ContextMenuHandler::CanInsertMenuCommand(bool, bool) const {
+  return m_writer.CanInsert();
+}
+
+clsOrvaneData* ContextMenuHandler::Record(std::int32_t lId) const {
+  Log(L"lID=", lId);
+  const auto node = m_state.m_colMenuItems.ItemViaKey(lId);
+  if (!node) Log(L"Entry not found!");
+  return node ? static_cast<clsOrvaneData*>(node->m_oData.get()) : nullptr;
+}
+
+std::wstring ContextMenuHandler::OwnerDrawMenu_GetCaption(std::int32_t lId) {
+  TraceScope scope(L"OwnerDrawMenu_GetCaption");
+  const clsOrvaneData* record = Record(lId);
+  if (!record) return {};
+  Log(L"m_lType=", record->m_lType);
+  std::wstring caption = m_writer.Caption(*record);
+  Log(L"Caption=", caption);
+  return caption;
+}
+
+BitmapHandle ContextMenuHandler::OwnerDrawMenu_HasBitmap(std::int32_t lId) {
+  TraceScope scope(L"OwnerDrawMenu_HasBitmap");
+  clsOrvaneData* record = Record(lId);
+  if (!record) return BitmapHandle::None;
+  const BitmapHandle bitmap = m_drawing.Picture(*record);
+  if (bitmap == BitmapHandle::None)
+    Log(L"Bitmap not found!");
+  else
+    Log(L"Bitmap=", Hex(bitmap));
+  return bitmap;
+}
+
+}  // namespace orvane

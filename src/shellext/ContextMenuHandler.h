@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "commands/CommandDispatch.h"
+#include "commands/CommandText.h"
+#include "graphics/OwnerDrawMenu.h"
+#include "platform/MessageBoxes.h"
+#include "shellext/DynamicFolders.h"
+#include "shellext/HandlerState.h"
+#include "shellext/MenuWriter.h"
+#include "shellext/ModuleGlobals.h"
+
+namespace orvane {
+
+/// What the shell talks to, without COM: made for one right-click, handed the folder and the
+/// selection, asked for its menu entries, told of the menu's messages, asked for help texts and
+/// told to run the chosen command. One thread; nothing thrown comes out of a method.
+class ContextMenuHandler : public MenuItemLookup {
+ public:
+  /// Loads settings and lists anew. `globals` are the calling thread's and outlive the handler.
+  explicit ContextMenuHandler(ModuleGlobals& globals);
+  ~ContextMenuHandler() override;
+
+  /// 0, or the HRESULT with which the data object refused its files.
+  std::int32_t IShellExtInit_Initialize(ItemIdList pidlFolder,
+                                        std::shared_ptr<DataObject> pSelectionObj,
+                                        std::int32_t hKeyProgID) noexcept;
+
+  /// Builds the menu and answers the success code with the count of identifiers.
+  std::int32_t IContextMenu_QueryContextMenuEx(MenuHandle hMenu, std::int32_t indexMenu,
+                                               std::int32_t idCmdFirst, std::int32_t idCmdLast,
+                                               std::uint32_t uFlags) noexcept;
+
+  /// Only logs; menu messages are handled by the newer form below.
+  void IContextMenu2_HandleMenuMsg(std::uint32_t uMsg, std::intptr_t wParam,
+                                   std::intptr_t lParam) noexcept;
+
+  /// A message of an open menu (graphics/MenuItemMessages.h); `plResult` may be null.
+  void IContextMenu3_HandleMenuMsg2(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam,
+                                    std::intptr_t* plResult) noexcept;
+
+  /// 0, or the failing HRESULT of the one command that reports one.
+  std::int32_t IContextMenu_InvokeCommand(const InvokeRequest& request);
+
+  /// An entry's help text or verb.
+  CommandText IContextMenu_GetCommandString(const TextRequest& request) const;
+
+  bool CreateMenu();
+  WindowHandle GetRootExplorerWindow(WindowHandle hWnd);
+  WindowHandle GetRootOfficeWindow(WindowHandle hWnd);
+  bool IsIE(WindowHandle hWnd);
+  bool CanInsertMenuCommand(bool bShowError, bool bInternal) const;
+  std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) override;
+  BitmapHandle OwnerDrawMenu_HasBitmap(std::int32_t lId) override;
+
+  const HandlerState& State() const { return m_state; }
+
+ private:
+  enum class Part { None, Count, Build };  // in the menu: nothing, a count as it stands, entries
+
+  void UserControl_Initialize();
+  void UserControl_Terminate();
+  void CountWindowActions() noexcept;
+  void DestroyDynamicMenus();
+  Part Participation(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t idCmdFirst,
+                     std::int32_t idCmdLast);
+  void BuildMenu(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t idCmdFirst,
+                 std::int32_t idCmdLast);
+  void InsertDebugSwitch();
+  void InsertRoot(UniqueMenu root, std::int32_t position);
+  void ReserveDynamicIds();
+  void StopReadTimer() noexcept;
+  void Tell(const std::wstring& text, MessageBoxes::Icon icon);
+  clsOrvaneData* Record(std::int32_t lId) const;
+  CommandContext Context() const;
+
+  ModuleGlobals& m_globals;
+  HandlerState m_state;
+  OwnerDrawMenu m_drawing;
+  MenuWriter m_writer;
+  DynamicFolders m_dynamic;
+};
+
+}  // namespace orvane

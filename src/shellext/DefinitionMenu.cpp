@@ -1,0 +1,166 @@
+#include "shellext/DefinitionMenu.h"
+
+#include <utility>
+
+#include "platform/FileSystem.h"
+#include "support/ProductName.h"
+#include "support/Trace.h"
+
+namespace orvane {
+namespace {
+
+using Data = clsOrvaneData;
+
+/// How an item with a menu entry is dressed and logged.
+struct ItemKind {
+  std::int32_t type;
+  std::int32_t bitmapKey;
+  bool popup;
+  std::wstring_view log;
+  std::wstring_view logLocation;  // empty: the location is not logged
+};
+
+constexpr ItemKind Kinds[] = {
+    {Data::TypeFile, MenuWriter::OwnIcon, false, L"Adding file: ", L"           : "},
+    {Data::TypeFolder, MenuWriter::OwnIcon, false, L"Adding folder: ", L"             : "},
+    {Data::TypePopupMenu, MenuWriter::NoBitmap, true, L"Adding popup: ", L""},
+    {Data::TypeDynamicFolder, MenuWriter::OwnIcon, true, L"Adding dfolder: ", L"              : "},
+    {Data::TypeSelectionTask, MenuWriter::TaskBitmap, false, L"Adding sel task: ",
+     L"               : "},
+    {Data::TypeCustomAction, MenuWriter::ActionBitmap, false, L"Adding CustomAction: ",
+     L"                   : "},
+    {Data::TypeCopyToX, MenuWriter::OwnIcon, false, L"Adding copytox: ", L""},
+};
+
+const ItemKind* FindKind(std::int32_t type) {
+  for (const ItemKind& kind : Kinds)
+    if (kind.type == type) return &kind;
+  return nullptr;
+}
+
+}  // namespace
+
+bool DefinitionMenu::Read() {
+  auto bytes = m_globals.platform.files.Read(m_globals.g_Options.m_szShellConfigFile);
+  if (!bytes || bytes->empty()) return true;
+  DefinitionFile file(std::move(*bytes), m_globals.codePage);
+  return ReadFile(file);
+}
+
+bool DefinitionMenu::ReadFile(DefinitionFile& file) {
+  clsOrvaneDataTools& tools = m_globals.tools;
+  clsFileHeader header;
+  try {
+    const std::int32_t version = tools.File_ReadVersion(file);
+    if (version < tools.MinVersion() || version > tools.MaxVersion())
+      return Refuse(L"Invalid file version!", MessageBoxes::Icon::Exclamation);
+    if (!tools.File_ReadHeader(file, header))
+      return Refuse(L"File is corrupt!", MessageBoxes::Icon::Exclamation);
+  } catch (const CorruptFile&) {
+    return Refuse(L"File is corrupt!", MessageBoxes::Icon::Exclamation);
+  }
+  try {
+    return ReadItems(file, header.ItemCount);
+  } catch (const CorruptFile&) {
+    return Refuse(L"File is corrupt!", MessageBoxes::Icon::Stop);
+  }
+}
+
+bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
+  for (std::int32_t i = 1; i <= count; ++i) {
+    auto record = std::make_shared<clsOrvaneData>();
+    const clsCollection::Node node = m_writer.AddNode(record);
+    Log(L"Index=", node->Index);
+    std::int32_t parentIndex = 0;
+    if (!m_globals.tools.File_ReadItemHeader(file, parentIndex, *record))
+      return Refuse(L"File is corrupt!", MessageBoxes::Icon::Stop);
+    Log(L"lParentIndex=", parentIndex);
+    if (!HasParent(parentIndex, node->Index)) {
+      Log(L"Parent not found: ", parentIndex);
+      return false;
+    }
+    m_globals.tools.ReadData(file, *record);
+    if (!AddItem(node, ParentMenu(parentIndex))) return true;
+  }
+  AddPlaceholders();
+  return true;
+}
+
+// A parent must be there already and be something that holds entries, else the file's tree is none.
+bool DefinitionMenu::HasParent(std::int32_t parentIndex, std::int32_t index) const {
+  if (parentIndex == 0) return true;
+  if (parentIndex < 0 || parentIndex >= index) return false;
+  const auto parent = m_state.m_colMenuItems.Item(parentIndex);
+  const auto& record = static_cast<const clsOrvaneData&>(*parent->m_oData);
+  return record.IsTypeRoot() || record.IsTypePopupMenu();
+}
+
+MenuHandle DefinitionMenu::ParentMenu(std::int32_t parentIndex) const {
+  if (parentIndex == 0) return m_state.m_hRootMenu;
+  return ToHandle<MenuHandle>(m_state.m_colMenuItems.Item(parentIndex)->m_lData);
+}
+
+bool DefinitionMenu::IsShown(const clsOrvaneData& record) const {
+  if (!record.IsTypeSelectionTask()) return true;
+  const std::int32_t selected = m_state.selection.m_lSelectionCount;
+  return (record.SelectionOptions_IsShowAlways() && selected >= 1) ||
+         (record.SelectionOptions_IsShowSingle() && selected == 1) ||
+         (record.SelectionOptions_IsShowMultiple() && selected >= 2);
+}
+
+/// False when the shell's identifiers are used up.
+bool DefinitionMenu::AddItem(const clsCollection::Node& node, MenuHandle menu) {
+  const auto& record = static_cast<const clsOrvaneData&>(*node->m_oData);
+  Log(L"m_lType=", record.m_lType, L"  hCurrentMenu=", Hex(menu));
+  const MenuWriter::Target target{menu};
+  if (record.IsTypeRoot()) {
+    m_globals.g_szRootMenuCaption = m_writer.Caption(record);
+    Log(L"Root Caption=", m_globals.g_szRootMenuCaption);
+    node->m_lData = ToNumber(m_state.m_hRootMenu);
+    return true;
+  }
+  if (record.IsTypeSeparator()) {
+    Log(L"Adding separator");
+    m_writer.InsertSeparator(target);
+    return true;
+  }
+  const ItemKind* kind = FindKind(record.m_lType);
+  if (!kind || !IsShown(record)) return true;
+  if (!m_writer.CanInsert()) return false;
+
+  MenuWriter::Item item;
+  item.node = node;
+  item.caption = m_writer.Caption(record);
+  item.bitmapKey = kind->bitmapKey;
+  item.iconFile = record.Location();
+  if (record.IsTypeFolder()) m_writer.DressFolder(record, item);
+  Log(kind->log, m_state.ids.Next(), L" - ", item.caption);
+  if (!kind->logLocation.empty()) Log(kind->logLocation, record.Location());
+  if (record.IsTypeDynamicFolder()) {
+    m_writer.InsertDynamicFolder(target, std::move(item));
+    return true;
+  }
+  if (kind->popup) {
+    item.submenu = m_writer.CreatePopup();
+    Log(L"NewMenu=", Hex(item.submenu.get()));
+  }
+  m_writer.Insert(target, std::move(item));
+  return true;
+}
+
+void DefinitionMenu::AddPlaceholders() {
+  if (!m_writer.CanInsert()) return;
+  auto record = std::make_shared<clsOrvaneData>();
+  record->m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
+  m_state.m_lEmptyCmdId = m_state.ids.Take();
+  m_writer.AddNode(std::move(record))->m_lKey = m_state.m_lEmptyCmdId;
+  for (const auto& dynamic : m_state.m_colDynamicMenus)
+    m_writer.AppendPlaceholder(ToHandle<MenuHandle>(dynamic->m_lKey));
+}
+
+bool DefinitionMenu::Refuse(const wchar_t* message, MessageBoxes::Icon icon) const {
+  m_globals.platform.boxes.Show(message, g_szAppTitle, icon);
+  return false;
+}
+
+}  // namespace orvane

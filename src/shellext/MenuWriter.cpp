@@ -1,0 +1,127 @@
+#include "shellext/MenuWriter.h"
+
+#include <utility>
+
+#include "menudata/ShellPaths.h"
+#include "support/Trace.h"
+
+namespace orvane {
+
+bool MenuWriter::CanInsert() const {
+  if (m_state.ids.CanTake()) return true;
+  Log(L"Limit hit=", m_state.ids.Next(), L":", m_state.ids.Last());
+  return false;
+}
+
+clsCollection::Node MenuWriter::AddNode(std::shared_ptr<clsOrvaneData> record) {
+  return m_state.m_colMenuItems.Add({}, HandlerState::NoKey, std::move(record));
+}
+
+bool MenuWriter::Insert(const Target& target, Item item) {
+  clsCollection& node = *item.node;
+  if (node.m_lKey == HandlerState::NoKey) node.m_lKey = m_state.ids.Take();
+
+  NewMenuItem entry;
+  entry.menu = target.menu;
+  entry.position = NextPosition(target);
+  entry.caption = std::move(item.caption);
+  entry.id = node.m_lKey;
+  entry.bitmapKey = item.bitmapKey;
+  entry.iconFile = std::move(item.iconFile);
+  entry.trimCaption = item.trimCaption;
+  entry.fileName = item.fileName;
+  entry.submenu = item.submenu.get();
+  entry.record = static_cast<clsOrvaneData*>(node.m_oData.get());
+  if (!m_drawing.AddMenuWithBitmap(entry)) return false;
+  node.m_lData = ToNumber(item.submenu.release());
+  if (target.position) ++*target.position;
+  return true;
+}
+
+bool MenuWriter::InsertBuiltIn(const Target& target, std::int32_t type, std::int32_t bitmapKey,
+                               UniqueMenu submenu) {
+  auto record = std::make_shared<clsOrvaneData>();
+  record->m_lType = type;
+  Item item;
+  item.caption = Caption(*record);
+  item.bitmapKey = bitmapKey;
+  item.submenu = std::move(submenu);
+  item.node = AddNode(std::move(record));
+  return Insert(target, std::move(item));
+}
+
+bool MenuWriter::InsertDynamicFolder(const Target& target, Item item) {
+  item.submenu = CreatePopup();
+  const clsCollection::Node node = item.node;
+  const MenuHandle submenu = item.submenu.get();
+  Log(L"NewMenu=", Hex(submenu));
+  if (!Insert(target, std::move(item))) return false;
+  m_state.m_colDynamicMenus.Add({}, ToNumber(submenu), node);
+  return true;
+}
+
+void MenuWriter::AppendPlaceholder(MenuHandle submenu) {
+  clsOrvaneData placeholder;
+  placeholder.m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
+  MenuEntry entry;
+  entry.caption = Caption(placeholder);
+  entry.id = static_cast<std::uint32_t>(m_state.m_lEmptyCmdId);
+  entry.ownerDraw = m_globals.g_Options.m_bShellOwnerDraw;
+  entry.state = entry.ownerDraw ? MenuEntry::State::Disabled : MenuEntry::State::Grayed;
+  m_globals.platform.menus.Insert(submenu, Menus::Append, entry);
+}
+
+void MenuWriter::InsertSeparator(const Target& target) {
+  MenuEntry separator;
+  separator.separator = true;
+  const bool inserted =
+      m_globals.platform.menus.Insert(target.menu, NextPosition(target), separator);
+  if (inserted && target.position) ++*target.position;
+}
+
+bool MenuWriter::HasEntries(MenuHandle menu) const {
+  return m_globals.platform.menus.Count(menu) > 0;
+}
+
+UniqueMenu MenuWriter::CreatePopup() {
+  Menus& menus = m_globals.platform.menus;
+  UniqueMenu popup(menus, menus.CreatePopup());
+  if (!popup) throw Error(Error::OutOfMemory, L"Out of memory", L"CreatePopupMenu");
+  return popup;
+}
+
+void MenuWriter::DressFolder(const clsOrvaneData& record, Item& item) {
+  if (IsCurrentFolder(record))
+    item.bitmapKey = CurrentFolderBitmap;
+  else if (m_globals.g_Options.m_bShellUseOwnFolderBitmap)
+    item.bitmapKey = OwnFolderBitmap;
+  else
+    item.bitmapKey = OwnIcon;
+
+  item.iconFile = record.Location();
+  // A special folder's location is a number, which has no icon; the folder itself has one.
+  if (item.bitmapKey == OwnIcon && record.OptionsIsCSIDL()) {
+    Shell& shell = m_globals.platform.shell;
+    item.iconFile =
+        PidlToPath(shell, shell.SpecialFolder(WindowHandle::None, record.FolderCSIDL()));
+  }
+}
+
+std::wstring MenuWriter::Caption(const clsOrvaneData& record) const {
+  bool trim = false;
+  return m_globals.tools.GetMenuCaption(record, trim);
+}
+
+std::int32_t MenuWriter::NextPosition(const Target& target) const {
+  return target.position ? *target.position : Menus::Append;
+}
+
+bool MenuWriter::IsCurrentFolder(const clsOrvaneData& record) const {
+  const std::wstring& current = m_state.selection.CurrentFolder;
+  if (record.OptionsIsCSIDL())
+    return IsCurrentFolderCSIDL(m_globals.platform.shell, WindowHandle::None, record.FolderCSIDL(),
+                                current);
+  return record.Location() == current;
+}
+
+}  // namespace orvane

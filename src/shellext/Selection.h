@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/DataObject.h"
+#include "platform/FileSystem.h"
+#include "platform/ItemIdList.h"
+#include "platform/Shell.h"
+
+namespace orvane {
+
+/// What the menu is for: the folder and the selected items, as the shell handed them over.
+struct Selection {
+  std::shared_ptr<DataObject> m_pDataObject;
+  std::int32_t m_lSelectionCount = 0;
+  std::wstring m_szSelectedItem;  // when exactly one item is selected
+  ItemIdList m_pidlFolder;
+  std::wstring CurrentFolder;  // empty for a virtual folder
+  std::wstring CurrentFile;    // the one selected item, when it is a file
+
+  /// Takes the folder (may be none) and the data object (may be null) in place of what was held.
+  /// Returns 0 or the HRESULT with which the data object refused its files.
+  std::int32_t Capture(Shell& shell, FileReader& files, ItemIdList folder,
+                       std::shared_ptr<DataObject> dataObject);
+};
+
+}  // namespace orvane

@@ -1,0 +1,175 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/DefinitionBuilder.h"
+#include "platform/memory/DataObject.h"
+#include "platform/memory/Desktop.h"
+#include "platform/memory/MenuText.h"
+#include "shellext/ContextMenuHandler.h"
+
+namespace orvane::test {
+
+inline constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
+inline constexpr const wchar_t* ConfigFile = L"C:\\Program Files\\Orvane\\Default.cfg";
+
+/// A right-click on the memory desktop: set the scene, click, look at the menu. The end of its life
+/// is the end of the menu, and checks what must hold of every menu.
+class RightClick {
+ public:
+  explicit RightClick() {
+    Set(L"ShellShowHistoryMRU", 0);
+    Set(L"ShellShowQuickAccessMRU", 0);
+    Set(L"ShellShowFlags", 0);
+    Set(L"ShellOwnerDraw", 0);
+  }
+
+  ~RightClick() {
+    End();
+    EXPECT_EQ(desktop.menus.LiveCount(), 0u);
+    EXPECT_EQ(desktop.gdi.Live(), 0u);
+  }
+
+  void Set(const std::wstring& name, std::uint32_t number) {
+    desktop.registry.SetNumber(Hive::CurrentUser, SettingsKey, name, number);
+  }
+
+  void Define(const DefinitionBuilder& builder) {
+    memory::Desktop scribe;
+    const CodePage codePage(scribe.system.AnsiCharacters());
+    clsTrace debug(scribe.files, scribe.boxes, scribe.clock, scribe.locale, scribe.tcp, codePage);
+    Define(WriteDefinition(builder.definition, codePage, debug));
+  }
+  void Define(const std::vector<std::byte>& bytes) {
+    desktop.files.AddFile(
+        ConfigFile, std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+  }
+
+  /// Stores entries in a recently-used list ("HistoryMRU", "QuickAccessMRU"), newest first.
+  void Remember(const std::wstring& list, const std::vector<clsOrvaneData>& items) {
+    memory::Desktop scribe;
+    ModuleGlobals globals(scribe.Bundle());
+    const std::wstring key = std::wstring(SettingsKey) + L"ContextMenu\\" + list;
+    std::uint32_t count = 0;
+    for (const clsOrvaneData& item : items)
+      desktop.registry.SetText(Hive::CurrentUser, key, L"Mru" + std::to_wstring(++count),
+                               globals.tools.CreateHistoryMRU(item));
+    desktop.registry.SetNumber(Hive::CurrentUser, key, L"MruFileCount", count);
+  }
+
+  static clsOrvaneData Entry(std::int32_t type, const std::wstring& location,
+                             const std::wstring& caption, std::int32_t options = 0) {
+    clsOrvaneData item;
+    item.m_lType = type;
+    item.m_lOptions = options;
+    item.Location(location);
+    item.Caption(caption);
+    return item;
+  }
+
+  /// Creates the handler and hands it folder and selection.
+  ContextMenuHandler& Create(const std::wstring& folder = {},
+                             std::initializer_list<std::wstring_view> selection = {}) {
+    if (!globals) globals.emplace(desktop.Bundle());
+    handler = std::make_unique<ContextMenuHandler>(*globals);
+    std::shared_ptr<DataObject> data;
+    if (selection.size() > 0) data = std::make_shared<memory::DataObject>(selection);
+    const ItemIdList pidl = folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder);
+    EXPECT_EQ(handler->IShellExtInit_Initialize(pidl, data, 0), 0);
+    return *handler;
+  }
+
+  /// The whole right-click; the answer of QueryContextMenu.
+  std::int32_t Click(const std::wstring& folder = {},
+                     std::initializer_list<std::wstring_view> selection = {}) {
+    Create(folder, selection);
+    return Query();
+  }
+
+  std::int32_t Query() {
+    if (shellMenu == MenuHandle::None) shellMenu = desktop.menus.CreatePopup();
+    return handler->IContextMenu_QueryContextMenuEx(shellMenu, 0, idFirst, idLast, 0);
+  }
+
+  std::wstring Menu() { return memory::MenuText(desktop.menus, shellMenu); }
+
+  /// The submenu behind the first entry of that caption, anywhere in the menu.
+  MenuHandle Submenu(const std::wstring& caption) { return Find(shellMenu, caption); }
+
+  std::wstring Open(const std::wstring& caption) {
+    const MenuHandle submenu = Submenu(caption);
+    handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, ToNumber(submenu), 0,
+                                          nullptr);
+    return memory::MenuText(desktop.menus, submenu);
+  }
+
+  /// Texts of the message boxes so far, each with its icon in brackets.
+  std::vector<std::wstring> Boxes() const {
+    std::vector<std::wstring> boxes;
+    for (const memory::Effect& effect : desktop.effects.All()) {
+      if (effect.call != "MessageBox") continue;
+      std::map<std::string, std::wstring> fields;
+      for (const auto& [name, value] : effect.fields)
+        if (const auto* text = std::get_if<std::wstring>(&value)) fields[name] = *text;
+      boxes.push_back(fields["text"] + L" [" + fields["icon"] + L"]");
+    }
+    return boxes;
+  }
+
+  /// Checks the menu's identifiers and ends it as the shell does.
+  void End() {
+    if (handler && shellMenu != MenuHandle::None) {
+      std::set<std::uint32_t> seen;
+      Verify(shellMenu, seen);
+    }
+    if (desktop.menus.Exists(shellMenu)) desktop.menus.Destroy(shellMenu);
+    shellMenu = MenuHandle::None;
+    handler.reset();
+    globals.reset();
+  }
+
+  memory::Desktop desktop;
+  std::optional<ModuleGlobals> globals;
+  std::unique_ptr<ContextMenuHandler> handler;
+  MenuHandle shellMenu = MenuHandle::None;
+  std::int32_t idFirst = 1;
+  std::int32_t idLast = 32767;
+
+ private:
+  MenuHandle Find(MenuHandle menu, const std::wstring& caption) {
+    for (const MenuEntry& entry : desktop.menus.Entries(menu)) {
+      if (entry.submenu == MenuHandle::None) continue;
+      if (entry.caption == caption) return entry.submenu;
+      if (const MenuHandle found = Find(entry.submenu, caption); found != MenuHandle::None)
+        return found;
+    }
+    return MenuHandle::None;
+  }
+
+  /// Identifiers are in range, unique and in the command table. The root entry has none, the switch
+  /// of the debug log has no node, and the placeholders share theirs.
+  void Verify(MenuHandle menu, std::set<std::uint32_t>& seen) {
+    const HandlerState& state = handler->State();
+    for (const MenuEntry& entry : desktop.menus.Entries(menu)) {
+      if (entry.submenu != MenuHandle::None) Verify(entry.submenu, seen);
+      const auto id = static_cast<std::int32_t>(entry.id);
+      if (entry.separator || entry.submenu == state.m_hRootMenu) continue;
+      if (entry.caption.ends_with(L"able debugging")) continue;
+      EXPECT_GE(id, state.ids.First());
+      EXPECT_LE(id, state.ids.Last());
+      EXPECT_TRUE(state.m_colMenuItems.ItemViaKey(id)) << id;
+      EXPECT_TRUE(seen.insert(entry.id).second || id == state.m_lEmptyCmdId) << id;
+    }
+  }
+};
+
+}  // namespace orvane::test
