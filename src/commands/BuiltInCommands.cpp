@@ -1,0 +1,88 @@
+#include "commands/BuiltInCommands.h"
+
+#include "commands/Opener.h"
+#include "commands/Warning.h"
+#include "customactions/KeyNotation.h"
+#include "menudata/ShellPaths.h"
+#include "platform/Clock.h"
+#include "platform/SystemInfo.h"
+#include "support/Trace.h"
+
+namespace orvane {
+namespace {
+
+bool IsListed(const CommandContext& context, const clsOrvaneData& item) {
+  const clsMRU& list = context.g_QuickAccessMRU;
+  for (std::int32_t i = 1; i <= list.FileCount(); ++i) {
+    clsOrvaneData listed;
+    context.tools.BreakdownHistoryMRU(list.File(i), listed);
+    if (listed.m_lType == item.m_lType && listed.Location() == item.Location()) return true;
+  }
+  return false;
+}
+
+bool IsFullPath(const std::wstring& path) {
+  return path.starts_with(L"\\\\") || path.find(L":\\") == 1;
+}
+
+std::wstring InQuotesWhenBlank(const std::wstring& text) {
+  return text.find(L' ') == std::wstring::npos ? text : L'"' + text + L'"';
+}
+
+/// By its full path only: a program of that name in the current folder must not be the one.
+std::wstring CommandInterpreter(SystemInfo& system) {
+  std::wstring program = system.Environment(L"comspec");
+  if (!IsFullPath(program) || program.find(L'"') != std::wstring::npos)
+    program = system.SystemFolder() + L"\\cmd.exe";
+  return program;
+}
+
+}  // namespace
+
+void AddToQuickAccess(const CommandContext& context) {
+  clsOrvaneData item;
+  const bool isFile = !context.CurrentFile.empty();
+  item.m_lType = isFile ? clsOrvaneData::TypeFile : clsOrvaneData::TypeFolder;
+  item.Location(isFile ? context.CurrentFile : context.CurrentFolder);
+  item.Caption(GetDisplayName(context.platform.shell, item.Location()));
+  if (!IsListed(context, item))
+    context.g_QuickAccessMRU.AddFile(context.tools.CreateHistoryMRU(item));
+}
+
+void StartDesigner(const CommandContext& context, WindowHandle window) {
+  const Platform& platform = context.platform;
+  Opener opener(platform.launcher, platform.profiles, platform.shell);
+  std::wstring program;
+  for (const wchar_t* place : {L"\\designer.exe", L"\\..\\designer\\designer.exe"}) {
+    program = platform.system.ProgramFolder() + place;
+    Log(L"szFolder=", program);
+    if (opener.ShellExecuteChecked({.owner = window, .verb = L"open", .file = program})) break;
+  }
+  Log(L"Err.Number=", GetPendingError().number);
+  WarnOfPendingError(platform.boxes, program);
+}
+
+void TypeIntoRunDialog(const CommandContext& context) {
+  constexpr std::uint16_t LetterR = 82;
+  constexpr std::uint32_t UntilItIsThere = 100;  // milliseconds
+  Keyboard& keyboard = context.platform.keyboard;
+  keyboard.Press(Keyboard::LeftWindows, false);
+  keyboard.Press(LetterR, false);
+  keyboard.Press(LetterR, true);
+  keyboard.Press(Keyboard::LeftWindows, true);
+  context.platform.windows.RunMessages(UntilItIsThere);
+  context.platform.clock.Pause(UntilItIsThere);
+  SendKeys(keyboard, InQuotesWhenBlank(context.m_szSelectedItem));
+}
+
+/// The folder is the new process's alone: the host's own current folder, which other threads of it
+/// rely on, stays as it is.
+void OpenCommandPrompt(const CommandContext& context) {
+  Launcher& launcher = context.platform.launcher;
+  const std::wstring program = CommandInterpreter(context.platform.system);
+  const std::wstring commandLine = InQuotesWhenBlank(program) + L" /k ";
+  if (launcher.Start(program, commandLine, context.CurrentFolder)) return;
+  if (!context.CurrentFolder.empty()) launcher.Start(program, commandLine, L"");
+}
+
+}  // namespace orvane

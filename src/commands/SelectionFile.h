@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "platform/FileSystem.h"
+#include "support/Error.h"
+
+namespace orvane {
+
+/// Writes the bytes as the file, in place of what was there. A file that is there keeps its
+/// contents until all of the new ones are on the disk. None when it went well.
+std::optional<Error> WriteSelectionFile(FileSystem& files, const std::wstring& path,
+                                        std::span<const std::byte> bytes);
+
+/// The numbered error of a Windows error code of the file system.
+Error FileError(std::uint32_t code);
+
+}  // namespace orvane
