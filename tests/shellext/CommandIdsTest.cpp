@@ -22,9 +22,9 @@ TEST(CommandIds, ReservesForDynamicFoldersByWhatIsLeft) {
     std::int32_t left;
     std::int32_t reserved;
   };
-  constexpr Row rows[] = {{5, 0},       {10, 0},      {11, 1},      {800, 790},   {1000, 990},
-                          {1001, 1000}, {2500, 1000}, {2501, 2500}, {5000, 2500}, {5001, 5000},
-                          {30000, 5000}};
+  constexpr Row rows[] = {{5, 0},       {10, 0},      {11, 1},      {800, 790},
+                          {1000, 990},  {1001, 1000}, {2500, 1000}, {2501, 2500},
+                          {5000, 2500}, {5001, 5000}, {30000, 5000}};
   for (const Row& row : rows) {
     CommandIds ids(1, 51 + row.left);
     for (int i = 0; i < 50; ++i) ids.Take();

@@ -8,11 +8,12 @@ namespace {
 /// A right-click with one dynamic folder on C:\Work, not opened yet.
 class Folder : public RightClick {
  public:
-  explicit Folder(const std::wstring& filter = {}) : m_filter(filter) {}
+  explicit Folder(const std::wstring& filter = {}, const std::wstring& location = L"C:\\Work")
+      : m_filter(filter), m_location(location) {}
 
   std::wstring ClickAndOpen() {
     DefinitionBuilder menu;
-    menu.DynamicFolder(1, L"C:\\Work", L"Work", m_filter);
+    menu.DynamicFolder(1, m_location, L"Work", m_filter);
     Define(menu);
     Click();
     return Open(L"Work");
@@ -20,6 +21,7 @@ class Folder : public RightClick {
 
  private:
   std::wstring m_filter;
+  std::wstring m_location;
 };
 
 TEST(DynamicFolders, ListFilesFirstAndEachKindFromTheEndOfTheAlphabet) {
@@ -83,9 +85,9 @@ TEST(DynamicFolders, StayEmptyWhenThereIsNothingToShow) {
 }
 
 TEST(DynamicFolders, GiveUpAFolderThatDoesNotAnswer) {
-  Folder click;
-  click.desktop.files.AddFile(L"C:\\Work\\a.txt");
-  click.desktop.files.Stall(L"C:\\Work", 60000);
+  Folder click({}, L"\\\\server\\share");
+  click.desktop.files.AddFile(L"\\\\server\\share\\a.txt");
+  click.desktop.files.Stall(L"\\\\server\\share", 60000);
   const std::uint32_t before = click.desktop.clock.Ticks();
   EXPECT_EQ(click.ClickAndOpen(), L"(Empty) (disabled)\n");
   EXPECT_LE(click.desktop.clock.Ticks() - before, 1000u);

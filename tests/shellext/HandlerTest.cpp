@@ -34,9 +34,10 @@ TEST(Selection, TellsWhatTheMenuIsFor) {
     const std::wstring folder = row.folder;
     Selection selection;
     selection.CurrentFile = L"of an earlier call";
-    EXPECT_EQ(selection.Capture(desktop.shell, desktop.files,
-                                folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder), data),
-              0);
+    EXPECT_EQ(
+        selection.Capture(desktop.shell, desktop.files,
+                          folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder), data),
+        0);
     EXPECT_EQ(selection.CurrentFolder, row.currentFolder);
     EXPECT_EQ(selection.CurrentFile, row.currentFile);
     EXPECT_EQ(selection.m_szSelectedItem, row.selectedItem);
@@ -54,8 +55,7 @@ TEST(Selection, CountsBeyond16Bits) {
 }
 
 TEST(Selection, PassesTheDataObjectsFailureOn) {
-  for (const std::int32_t failure :
-       {memory::DataObject::NoFiles, memory::DataObject::LockFailed}) {
+  for (const std::int32_t failure : {memory::DataObject::NoFiles, memory::DataObject::LockFailed}) {
     RightClick click;
     click.Create();
     auto data = std::make_shared<memory::DataObject>(FileNames());
@@ -122,9 +122,10 @@ TEST(Handler, WritesTheDebugLogOfAMenu) {
   click.Click(L"C:\\Program Files");
   const std::string log =
       click.desktop.files.Content(L"C:\\Program Files\\Orvane\\Debug.dbg").value_or("");
-  for (const char* line : {" >  UserControl_Initialize\r\n", " >  IContextMenu_QueryContextMenuEx\r\n",
-                           "    CurrentFolder=C:\\Program Files\r\n", " >    CreateMenu\r\n",
-                           "        Adding designer\r\n", "      RV=2\r\n"})
+  for (const char* line :
+       {" >  UserControl_Initialize\r\n", " >  IContextMenu_QueryContextMenuEx\r\n",
+        "    CurrentFolder=C:\\Program Files\r\n", " >    CreateMenu\r\n",
+        "        Adding designer\r\n", "      RV=2\r\n"})
     EXPECT_NE(log.find(line), std::string::npos) << line << log;
   EXPECT_EQ(click.Boxes().size(), 1u);  // the warning that the log is on
 }

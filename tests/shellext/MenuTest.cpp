@@ -114,12 +114,12 @@ TEST(Menu, ShowsTheBuiltInCommandsWhereTheyApply) {
 
 TEST(Menu, ListsHistoryAndQuickAccess) {
   RightClick click;
-  click.Remember(L"HistoryMRU",
-                 {RightClick::Entry(Data::TypeFile, L"C:\\a.txt", L"a.txt"),
-                  RightClick::Entry(Data::TypeFolder, L"C:\\Work", L"Work",
-                                    Data::OptionsBrowseAndOpen),
-                  RightClick::Entry(Data::TypeFile, L"C:\\c.txt",
-                                    L"C:\\Documents and Settings\\user\\My Documents\\plan.txt")});
+  click.Remember(
+      L"HistoryMRU",
+      {RightClick::Entry(Data::TypeFile, L"C:\\a.txt", L"a.txt"),
+       RightClick::Entry(Data::TypeFolder, L"C:\\Work", L"Work", Data::OptionsBrowseAndOpen),
+       RightClick::Entry(Data::TypeFile, L"C:\\c.txt",
+                         L"C:\\Documents and Settings\\user\\My Documents\\plan.txt")});
   click.Remember(L"QuickAccessMRU", {RightClick::Entry(Data::TypeFolder, L"C:\\Q", L"Quick")});
   click.Set(L"ShellShowHistoryMRU", 1);
   click.Set(L"ShellShowQuickAccessMRU", 1);
@@ -164,8 +164,8 @@ TEST(Menu, ListsHistoryAndQuickAccess) {
 
 TEST(Menu, ASpoiltListEntryLeavesTheResetCommandInReach) {
   RightClick click;
-  click.Remember(L"HistoryMRU", {RightClick::Entry(Data::TypeFolder, L"x", L"Spoilt",
-                                                   Data::OptionsCSIDL)});
+  click.Remember(L"HistoryMRU",
+                 {RightClick::Entry(Data::TypeFolder, L"x", L"Spoilt", Data::OptionsCSIDL)});
   click.Set(L"ShellShowHistoryMRU", 1);
   click.Click();
   EXPECT_NE(click.Menu().find(L"&1 Spoilt"), std::wstring::npos);
@@ -303,8 +303,8 @@ TEST(Menu, SurvivesADefinitionFileCutAnywhere) {
   const std::vector<std::byte> whole = Fixture("every-kind");
   for (std::size_t size = 0; size < whole.size(); ++size) {
     RightClick click;
-    click.Define(std::vector<std::byte>(whole.begin(),
-                                        whole.begin() + static_cast<std::ptrdiff_t>(size)));
+    click.Define(
+        std::vector<std::byte>(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
     click.Click(L"C:\\Work", {L"C:\\Work\\a.txt"});
     // What is missing between two values reads as empty, and only of the last item that is enough.
     const bool readable = size == 0 || size == whole.size() - 33 || size == whole.size() - 13;
