@@ -13,7 +13,7 @@ struct MenuEntry {
   enum class State { Enabled, Disabled, Grayed };  // Disabled keeps its looks, Grayed shows it
 
   bool separator = false;
-  std::wstring caption;
+  std::wstring caption = {};
   std::uint32_t id = 0;
   MenuHandle submenu = MenuHandle::None;
   BitmapHandle bitmap = BitmapHandle::None;  // shown as check mark, checked or not

@@ -13,7 +13,7 @@ class Processes : public orvane::Processes {
  public:
   struct Process {
     std::uint32_t id = 1;
-    std::wstring executable;
+    std::wstring executable = {};
     bool canBeOpened = true;
     std::vector<std::uint32_t> threads = {1};
     std::wstring file = {};  // as the process walk names it; the executable when empty

@@ -15,12 +15,12 @@ class Windows : public orvane::Windows {
  public:
   struct Window {
     WindowHandle parent = WindowHandle::None;
-    std::wstring className;
-    std::wstring caption;
+    std::wstring className = {};
+    std::wstring caption = {};
     std::uint32_t process = 1;
     std::uint32_t thread = 1;
-    bool answers = true;                             // false: hangs
-    std::map<std::uint32_t, std::intptr_t> results;  // by message; 0 for the others
+    bool answers = true;                                  // false: hangs
+    std::map<std::uint32_t, std::intptr_t> results = {};  // by message; 0 for the others
     int questionsLeft = -1;  // vanishes after so many more calls; negative: stays
   };
 
