@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <optional>
+
+#include "commands/CommandDispatch.h"
+#include "support/CodePage.h"
+
+namespace orvane::server {
+
+/// What an invocation record asks for, in its short or its extended form. Reads no byte past the
+/// record's declared size; none when that is too small for the short form.
+std::optional<InvokeRequest> ReadInvokeRecord(const CMINVOKECOMMANDINFO& record,
+                                              const CodePage& codePage);
+
+}  // namespace orvane::server

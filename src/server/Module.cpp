@@ -1,0 +1,39 @@
+#include "server/Module.h"
+
+#include <atomic>
+
+namespace orvane::server {
+namespace {
+constinit HINSTANCE g_handle = nullptr;
+constinit std::atomic<long> g_locks = 0;
+}  // namespace
+
+void Module::Handle(HINSTANCE handle) {
+  g_handle = handle;
+}
+HINSTANCE Module::Handle() {
+  return g_handle;
+}
+
+std::wstring Module::Path() {
+  for (std::wstring path(MAX_PATH, L'\0');; path.resize(path.size() * 2)) {
+    const DWORD length = GetModuleFileNameW(g_handle, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    if (path.size() > 65536) return {};
+  }
+}
+
+void Module::Lock() {
+  ++g_locks;
+}
+void Module::Unlock() {
+  --g_locks;
+}
+bool Module::InUse() {
+  return g_locks != 0;
+}
+
+}  // namespace orvane::server

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace orvane::server {
+
+/// The DLL itself: its handle, and whether somebody still needs it. Everything that COM has handed
+/// out holds a ModuleLock.
+class Module {
+ public:
+  static void Handle(HINSTANCE handle);
+  static HINSTANCE Handle();
+
+  /// Full path of the DLL, of any length; empty when the system does not tell.
+  static std::wstring Path();
+
+  static void Lock();
+  static void Unlock();
+  static bool InUse();
+};
+
+/// Keeps the DLL loaded.
+class ModuleLock {
+ public:
+  ModuleLock() { Module::Lock(); }
+  ~ModuleLock() { Module::Unlock(); }
+  ModuleLock(const ModuleLock&) = delete;
+  ModuleLock& operator=(const ModuleLock&) = delete;
+};
+
+}  // namespace orvane::server

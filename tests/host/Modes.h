@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::host {
+
+// The host's ways of working beside its tests; each answers the program's exit status.
+
+/// Right-clicks the named files of a folder, or without names its background, in a real window;
+/// prints the menu as text. Ends when the menu is closed.
+int ShowMenu(const std::wstring& folder, const std::vector<std::wstring>& names);
+
+/// Times whole right-clicks against a loop of the same platform calls with nothing around them.
+int RunBench();
+
+}  // namespace orvane::host

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "host/Com.h"
+
+namespace orvane::host {
+
+/// A folder with real files, and the user's settings of the product: none but those that a test
+/// sets. Both are gone with the object.
+class Scene {
+ public:
+  Scene();
+  ~Scene();
+  Scene(const Scene&) = delete;
+  Scene& operator=(const Scene&) = delete;
+
+  std::wstring Folder() const { return m_folder.wstring(); }
+  std::wstring Path(const wchar_t* name) const { return (m_folder / name).wstring(); }
+
+  void Set(const wchar_t* name, DWORD number);
+  void Set(const wchar_t* name, const std::wstring& text);
+  /// Entries as text: no icons, no owner drawing.
+  void PlainText();
+
+ private:
+  std::filesystem::path m_folder;
+};
+
+/// One right-click as the shell does it: a handler made by COM, told the folder and the selection,
+/// asked for its entries. The menu is gone with the object, the handler with its last reference.
+class RightClick {
+ public:
+  /// `selection` may be null: a click on the folder's background.
+  RightClick(const std::wstring& folder, IDataObject* selection);
+  ~RightClick();
+  RightClick(const RightClick&) = delete;
+  RightClick& operator=(const RightClick&) = delete;
+
+  HRESULT Query(UINT first = 1, UINT last = 32767);
+  /// Puts an empty menu in place of the one that was built.
+  void NewMenu();
+
+  HRESULT initialized = E_FAIL;
+  ComPtr<IContextMenu3> handler;
+  HMENU menu = nullptr;
+};
+
+}  // namespace orvane::host
