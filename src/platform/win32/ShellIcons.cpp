@@ -51,7 +51,7 @@ std::wstring Association(ASSOCSTR what, const std::wstring& extension, const wch
 class ImageList {
  public:
   explicit ImageList(int list) {
-    if (FAILED(SHGetImageList(list, IID_IImageList, reinterpret_cast<void**>(&m_list))))
+    if (FAILED(SHGetImageList(list, __uuidof(IImageList), reinterpret_cast<void**>(&m_list))))
       m_list = nullptr;
   }
   ~ImageList() {
