@@ -8,7 +8,8 @@
 namespace orvane {
 
 /// Windows' INI files ("profile files"): sections of key=value lines. Section and key names are
-/// compared without regard to case; a value loses blanks and one pair of quotes around it.
+/// compared without regard to case; a value loses blanks and one pair of quotes around it. Files
+/// are named by full paths (Windows looks for others in its own folder).
 class ProfileReader {
  public:
   virtual ~ProfileReader() = default;

@@ -20,7 +20,8 @@ struct RegistryValue {
   std::vector<std::byte> data;
 };
 
-/// An open registry key; closed with the object. Every method answers 0 or the Win32 error code.
+/// An open registry key; closed with the object. Every method answers 0 or the Win32 error code. A
+/// key opened for reading cannot be written and the other way round.
 class RegistryKey {
  public:
   static constexpr std::int32_t NotFound = 2;  // ERROR_FILE_NOT_FOUND

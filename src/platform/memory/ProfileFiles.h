@@ -5,7 +5,7 @@
 
 namespace orvane::memory {
 
-/// INI files of a file system, in code page 1252 or UTF-16 with its mark. Calls fail as the file
+/// INI files of a file system, in code page 1252 or Unicode with its mark. Calls fail as the file
 /// system's do.
 class ProfileFiles : public orvane::ProfileFiles {
  public:
@@ -20,9 +20,6 @@ class ProfileFiles : public orvane::ProfileFiles {
              const std::optional<std::wstring>& value) override;
 
  private:
-  std::optional<std::wstring> Find(const std::wstring& file, const std::wstring& section,
-                                   const std::wstring& key);
-
   FileSystem& m_files;
 };
 

@@ -78,6 +78,7 @@ class Registry::Key : public RegistryKey {
 
   std::int32_t Read(const std::wstring& name, RegistryValue& value) override {
     if (m_registry.m_faults.Hit()) return IoFailure;
+    if (m_writable) return AccessDenied;
     const Values* values = m_registry.FindKey(m_name);
     if (!values) return NotFound;
     const auto found = values->find(LowerCase(name));
