@@ -13,10 +13,9 @@ namespace orvane {
 /// A menu definition file that breaks its own layout.
 class CorruptFile : public Error {
  public:
-  CorruptFile() : Error(Number, L"File is corrupt!") {}
+  static constexpr std::int32_t ErrorNumber = 321;
 
- private:
-  static constexpr std::int32_t Number = 321;
+  CorruptFile() : Error(ErrorNumber, L"File is corrupt!") {}
 };
 
 /// A menu definition file in memory and the place up to which it has been read: value records, each

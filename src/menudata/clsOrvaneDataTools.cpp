@@ -7,6 +7,7 @@
 
 #include "menudata/DataValues.h"
 #include "support/Number.h"
+#include "support/SplitFields.h"
 #include "support/Trace.h"
 #include "support/clsTokenizer.h"
 
@@ -14,17 +15,10 @@ namespace orvane {
 namespace {
 
 /// The comma-separated fields of a header; one in quotes may hold a comma.
-std::vector<std::wstring> HeaderFields(std::wstring text) {
-  clsTokenizer tokenizer;
-  tokenizer.WhiteSpaceChars(L"");
-  tokenizer.SeparatorChars(L",");
-  tokenizer.Text(std::move(text));
-  tokenizer.QuoteChars(L"'\"");
+std::vector<std::wstring> HeaderFields(const std::wstring& text) {
   std::vector<std::wstring> fields;
-  std::wstring token;
-  std::wstring separator;
-  bool quoted = false;
-  while (tokenizer.GetNextToken(token, separator, quoted)) fields.push_back(token);
+  const std::int32_t count = SplitFields(text, fields, true, L",", L"");
+  fields.resize(static_cast<std::size_t>(count));
   return fields;
 }
 

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "menudata/clsFileHeader.h"
+#include "menudata/clsOrvaneData.h"
+#include "menudata/clsOrvaneDataTools.h"
+#include "support/CodePage.h"
+#include "support/clsTrace.h"
+
+namespace orvane {
+
+/// A menu definition file as a whole: its header and its items in file order. The header's item
+/// count is not kept up; it is what it was in the file.
+struct Definition {
+  struct Item {
+    std::int32_t parent = 0;  // 1-based place of an earlier item, 0 for none; as it is in the file
+    clsOrvaneData data;
+  };
+
+  clsFileHeader header;
+  std::vector<Item> items;
+};
+
+/// A text of a definition that the file cannot hold.
+class UnwritableText : public Error {
+ public:
+  UnwritableText(std::size_t item, std::string_view value, std::wstring reason)
+      : Error(InvalidArgument, std::move(reason)), m_item(item), m_value(value) {}
+
+  std::size_t Item() const { return m_item; }  // 0-based
+  std::string_view Value() const { return m_value; }
+
+ private:
+  std::size_t m_item;
+  std::string_view m_value;
+};
+
+/// Reads a whole file. CorruptFile for what is none, Error for another version and for a number
+/// that is none. Parents are not looked at.
+Definition ReadDefinition(DefinitionFile& file, const clsOrvaneDataTools& tools);
+
+/// The file's bytes. UnwritableText for a text that is too long or has a character that the code
+/// page does not have.
+std::vector<std::byte> WriteDefinition(const Definition& definition, const CodePage& codePage,
+                                       clsTrace& debug);
+
+}  // namespace orvane
