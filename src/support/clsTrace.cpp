@@ -139,10 +139,12 @@ void clsTrace::OpenOutputFile(bool append) {
   m_hFile = m_files.OpenToWrite(m_szFile,
                                 append ? FileSystem::Open::Append : FileSystem::Open::CreateAnew);
   if (m_hFile || !m_bShowErrors) return;
+  // Messages are dispatched while the box is open; what they log must not put a second one over it.
+  m_bShowErrors = false;
   const auto answer =
       m_boxes.Show(L"Could not open the debugging output file!\r\n\r\nShow this error again?",
                    g_szAppTitle, MessageBoxes::Icon::Stop, MessageBoxes::Buttons::YesNo);
-  if (answer == MessageBoxes::Answer::No) m_bShowErrors = false;
+  m_bShowErrors = answer == MessageBoxes::Answer::Yes;
 }
 
 void clsTrace::WriteToFile(const std::wstring& line) {
