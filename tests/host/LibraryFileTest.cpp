@@ -10,9 +10,9 @@ namespace {
 
 // What every Windows has; a compiler's run-time DLL would have to be shipped along.
 const std::set<std::string> SystemDlls = {
-    "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll",
-    "ole32.dll",    "oleaut32.dll", "psapi.dll", "shell32.dll",  "shlwapi.dll",
-    "user32.dll",   "version.dll",  "winmm.dll", "ws2_32.dll"};
+    "advapi32.dll", "comctl32.dll", "gdi32.dll",    "kernel32.dll", "msvcrt.dll",
+    "ntdll.dll",    "ole32.dll",    "oleaut32.dll", "psapi.dll",    "shell32.dll",
+    "shlwapi.dll",  "user32.dll",   "version.dll",  "winmm.dll",    "ws2_32.dll"};
 
 TEST(LibraryFile, ImportsOnlySystemDlls) {
   for (const std::string& name : ImportedDlls(LibraryPath())) {
