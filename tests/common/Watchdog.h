@@ -15,7 +15,7 @@ namespace orvane::test {
 class Watchdog : public testing::EmptyTestEventListener {
  public:
   Watchdog() {
-    std::thread([this] { Watch(); }).detach();
+    std::thread([] { Watch(); }).detach();
   }
 
   void OnTestStart(const testing::TestInfo& test) override {
@@ -34,7 +34,7 @@ class Watchdog : public testing::EmptyTestEventListener {
            1;
   }
 
-  [[noreturn]] void Watch() {
+  [[noreturn]] static void Watch() {
     for (;;) {
       std::this_thread::sleep_for(std::chrono::seconds(1));
       const long long started = m_started;
@@ -45,8 +45,9 @@ class Watchdog : public testing::EmptyTestEventListener {
     }
   }
 
-  std::atomic<long long> m_started = 0;
-  char m_name[256] = "";
+  // Not the object's own: the thread outlives it at the program's end.
+  static inline std::atomic<long long> m_started = 0;
+  static inline char m_name[256] = "";
 };
 
 }  // namespace orvane::test
