@@ -24,7 +24,7 @@ struct NewMenuItem {
   std::wstring caption;
   std::int32_t id = 0;
   std::int32_t bitmapKey = 0;  // 1 to 9, OwnIcon, DesignerIcon; anything else is no picture
-  std::wstring iconFile;       // whose icon OwnIcon means
+  std::wstring iconFile = {};  // whose icon OwnIcon means
   bool trimCaption = false;
   bool fileName = false;  // the caption is the name of a file or folder that is there, and marks no
                           // letter with "&"

@@ -186,7 +186,8 @@ PaletteHandle Gdi::DefaultPalette() {
 
 template <class Handle>
 Handle Gdi::Exchange(GdiSlot<Handle>& slot, Handle handle) {
-  if (handle != slot.before && m_faults.Hit()) return Handle{};
+  const bool putsBack = handle == slot.before || IsStock(static_cast<std::uint32_t>(handle));
+  if (!putsBack && m_faults.Hit()) return Handle{};
   slot.before = slot.now;
   slot.now = handle;
   return slot.before;

@@ -36,7 +36,8 @@ struct GdiFont {
   Size cell;
 };
 
-/// What is selected, and what was selected before it: selecting that back always works.
+/// What is selected, and what was selected before it: selecting that, or what the context started
+/// with, always works.
 template <class Handle>
 struct GdiSlot {
   Handle now{};
