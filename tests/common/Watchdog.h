@@ -6,7 +6,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <thread>
 
 namespace orvane::test {
@@ -20,18 +19,12 @@ class Watchdog : public testing::EmptyTestEventListener {
   }
 
   void OnTestStart(const testing::TestInfo& test) override {
-    std::snprintf(m_state->name, sizeof m_state->name, "%s.%s", test.test_suite_name(),
-                  test.name());
-    m_state->started = Now();
+    std::snprintf(m_name, sizeof m_name, "%s.%s", test.test_suite_name(), test.name());
+    m_started = Now();
   }
-  void OnTestEnd(const testing::TestInfo&) override { m_state->started = 0; }
+  void OnTestEnd(const testing::TestInfo&) override { m_started = 0; }
 
  private:
-  struct State {
-    std::atomic<long long> started = 0;
-    char name[256] = "";
-  };
-
   static constexpr long long Limit = 60;  // seconds
 
   static long long Now() {
@@ -44,9 +37,9 @@ class Watchdog : public testing::EmptyTestEventListener {
   [[noreturn]] static void Watch() {
     for (;;) {
       std::this_thread::sleep_for(std::chrono::seconds(1));
-      const long long started = state.started;
+      const long long started = m_started;
       if (started == 0 || Now() - started < Limit) continue;
-      std::fprintf(stderr, "watchdog: %s hangs\n", state.name);
+      std::fprintf(stderr, "watchdog: %s hangs\n", m_name);
       std::fflush(stderr);
       std::_Exit(3);
     }
