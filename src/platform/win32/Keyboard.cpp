@@ -3,14 +3,11 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <span>
 
 #include "platform/win32/Windows.h"
 
 namespace orvane::win32 {
 namespace {
-
-constexpr std::size_t Batch = 2;  // events sent before the window is waited for: one key
 
 /// Keys of the block between letters and number pad, which share their scan codes with the latter.
 constexpr WORD ExtendedKeys[] = {VK_PRIOR, VK_NEXT,   VK_END,     VK_HOME,    VK_LEFT, VK_UP,
@@ -35,12 +32,34 @@ INPUT InputOf(const KeyEvent& event) {
   return input;
 }
 
-bool Send(std::span<const KeyEvent> events) {
-  INPUT inputs[Batch];
-  std::ranges::transform(events, inputs, InputOf);
-  const auto count = static_cast<UINT>(events.size());
-  return SendInput(count, inputs, sizeof(INPUT)) == count;
-}
+/// Shares the input state of another thread (AttachThreadInput), where that is allowed: GetKeyState
+/// then tells which keys that thread has taken from its queue.
+class SharedInput {
+ public:
+  SharedInput() = default;
+  SharedInput(const SharedInput&) = delete;
+  SharedInput& operator=(const SharedInput&) = delete;
+  ~SharedInput() { Detach(); }
+
+  void Share(DWORD thread) {
+    if (thread == m_thread) return;
+    Detach();
+    m_thread = thread;
+    m_shared =
+        thread == GetCurrentThreadId() || AttachThreadInput(GetCurrentThreadId(), thread, TRUE);
+  }
+  bool IsShared() const { return m_shared; }
+
+ private:
+  void Detach() {
+    if (m_shared && m_thread != GetCurrentThreadId()) {
+      AttachThreadInput(GetCurrentThreadId(), m_thread, FALSE);
+    }
+  }
+
+  DWORD m_thread = 0;
+  bool m_shared = false;
+};
 
 /// The foreground window; waits for one while the foreground is changing hands.
 HWND Foreground() {
@@ -53,25 +72,50 @@ HWND Foreground() {
   }
 }
 
-/// Waits until the foreground window's thread asks for its next message `rounds` times. A sent
-/// message is answered only when a thread does that, and keys come to it one at a time in between.
-bool WaitForForeground(int rounds) {
-  const HWND window = Foreground();
-  if (!window) return false;
-  if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) {
-    Windows().RunMessages(Keyboard::Patience);
+/// Sends events to the foreground window one at a time, each when the one before has been taken.
+class Typist {
+ public:
+  bool Type(const KeyEvent& event) {
+    m_window = Foreground();
+    if (!m_window) return false;
+    const DWORD thread = GetWindowThreadProcessId(m_window, nullptr);
+    m_own = thread == GetCurrentThreadId();
+    m_input.Share(thread);
+    INPUT input = InputOf(event);
+    return SendInput(1, &input, sizeof input) == 1 && WaitUntilTaken(event);
+  }
+
+ private:
+  static constexpr ULONGLONG SwallowedAfter = 100;  // milliseconds
+
+  bool WaitUntilTaken(const KeyEvent& event) {
+    const int key = event.kind == KeyEvent::Kind::Character ? VK_PACKET : event.code;
+    const ULONGLONG sent = GetTickCount64();
+    for (int turn = 0; !IsTaken(key, event.up); ++turn) {
+      if (GetTickCount64() - sent >= SwallowedAfter) return IsWaitingForInput();
+      Sleep(turn < 10 ? 0 : 1);
+    }
     return true;
   }
-  for (int i = 0; i < rounds; ++i) {
-    DWORD_PTR result = 0;
-    if (!SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, Keyboard::Patience,
-                             &result) &&
-        IsWindow(window)) {
-      return false;
-    }
+
+  bool IsTaken(int key, bool up) {
+    if (m_own) Windows().RunMessages(Keyboard::Patience);
+    return m_input.IsShared() && (GetKeyState(key) < 0) != up;
   }
-  return true;
-}
+
+  /// A window that answers has gone on without the key: it was meant for another one, which it
+  /// brought to the front, or for a hot key. Busy windows are waited for.
+  bool IsWaitingForInput() {
+    DWORD_PTR result = 0;
+    return m_own || !IsWindow(m_window) ||
+           SendMessageTimeoutW(m_window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, Keyboard::Patience,
+                               &result) != 0;
+  }
+
+  SharedInput m_input;
+  HWND m_window = nullptr;
+  bool m_own = false;
+};
 
 }  // namespace
 
@@ -86,18 +130,8 @@ void Keyboard::Press(std::uint16_t virtualKey, bool up) {
 }
 
 bool Keyboard::Type(const std::wstring&, const std::vector<KeyEvent>& events) {
-  constexpr int Settling = 5;
-  for (std::span<const KeyEvent> rest = events; !rest.empty();) {
-    const auto batch = rest.first(std::min(rest.size(), Batch));
-    if (!Foreground() || !Send(batch) || !WaitForForeground(static_cast<int>(Batch))) return false;
-    rest = rest.subspan(batch.size());
-  }
-  // the last key may still be on its way from the queue to the window
-  for (int i = 0; i < Settling; ++i) {
-    if (!WaitForForeground(1)) return false;
-    Sleep(1);
-  }
-  return true;
+  Typist typist;
+  return std::ranges::all_of(events, [&](const KeyEvent& event) { return typist.Type(event); });
 }
 
 }  // namespace orvane::win32
