@@ -103,7 +103,7 @@ TYPED_TEST(DialogsContract, BrowsingPicksWhatTheModelSelected) {
   EXPECT_EQ(this->shell.Path(picked.item), this->m_backEnd.folder);
   // Wine hands out the whole path when the dialog has an edit field
   EXPECT_TRUE(picked.displayName.ends_with(
-      this->m_backEnd.folder.substr(this->m_backEnd.folder.rfind(L'\') + 1)));
+      this->m_backEnd.folder.substr(this->m_backEnd.folder.rfind(L'\\') + 1)));
   EXPECT_EQ(browser.opened, 1);
   EXPECT_GE(browser.selections, 1);
   EXPECT_EQ(this->shell.Path(browser.selected), this->m_backEnd.folder);
