@@ -86,7 +86,7 @@ TYPED_TEST(LocaleContract, NamesMonthsAndDays) {
 
 #ifdef _WIN32
 TEST(Win32Locale, StartsTheWeekOnSunday) {
-  const SYSTEMTIME sunday{.wYear = 2024, .wMonth = 1, .wDayOfWeek = 0, .wDay = 7};
+  const SYSTEMTIME sunday{2024, 1, 0, 7, 0, 0, 0, 0};
   wchar_t name[80];
   ASSERT_GT(GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &sunday, L"dddd", name, 80, nullptr), 0);
   EXPECT_EQ(win32::Locale().Text(Locale::Fact::DayName, 0), name);

@@ -18,10 +18,16 @@ class ScratchFolder {
   ScratchFolder& operator=(const ScratchFolder&) = delete;
   ~ScratchFolder() {
     std::error_code ignored;
+#ifdef _WIN32
+    std::filesystem::remove_all(L"\\\\?\\" + m_path.wstring(), ignored);  // paths of any length
+#else
     std::filesystem::remove_all(m_path, ignored);
+#endif
   }
 
-  const std::filesystem::path& Path() const { return m_path; }
+  const std::filesystem::path& Path() const {
+    return m_path;
+  }
 
  private:
   std::filesystem::path m_path;

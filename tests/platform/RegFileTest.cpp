@@ -1,0 +1,149 @@
+#include "platform/memory/RegFile.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Error.h"
+#include "support/Utf16.h"
+#include "support/Utf8.h"
+
+namespace orvane {
+namespace {
+
+const std::string Header = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+class RegFile : public testing::Test {
+ protected:
+  void Import(std::string_view bytes) {
+    const auto* first = reinterpret_cast<const std::byte*>(bytes.data());
+    memory::ImportRegFile({first, bytes.size()}, registry);
+  }
+
+  /// The error's text; empty without one.
+  std::wstring ErrorOf(const std::string& bytes) {
+    try {
+      Import(bytes);
+    } catch (const Error& error) {
+      return error.Description();
+    }
+    return {};
+  }
+
+  std::optional<std::wstring> Text(const std::wstring& name) {
+    return registry.FindText(Hive::CurrentUser, L"Software\\A", name);
+  }
+
+  /// The value as "type:" and its bytes in hexadecimal.
+  std::string Raw(const std::wstring& name) {
+    const auto value = registry.Find(Hive::CurrentUser, L"Software\\A", name);
+    if (!value) return "none";
+    std::string text = std::to_string(value->type) + ":";
+    for (const std::byte byte : value->data) {
+      constexpr char Digits[] = "0123456789abcdef";
+      text += Digits[std::to_integer<std::size_t>(byte >> 4)];
+      text += Digits[std::to_integer<std::size_t>(byte & std::byte{15})];
+    }
+    return text;
+  }
+
+  memory::Effects effects;
+  memory::Faults faults;
+  memory::Registry registry{effects, faults};
+};
+
+TEST_F(RegFile, ReadsEveryKindOfValue) {
+  Import(Header +
+         "; a comment\r\n"
+         "[HKEY_CURRENT_USER\\Software\\A]\r\n"
+         "@=\"default\"\r\n"
+         "\"path\"=\"C:\\\\Program Files\\\\\\\"Orvane\\\"\"\r\n"
+         "  \"quoted \\\"name\\\"\" = \"x\"  \r\n"
+         "\"lines\"=\"one\r\ntwo\"\r\n"
+         "\"number\"=dword:000000FE\r\n"
+         "\"short\"=dword:5\r\n"
+         "\"binary\"=hex:01,2,\\\r\n  fF,\\\r\n  00\r\n"
+         "\"empty\"=hex:\r\n"
+         "\"typed\"=hex(1):41,00,00,00,42,00,00,00\r\n"
+         "\"none\"=hex(0):\r\n"
+         "\"multi\"=hex(7):61,00,00,00,00,00\n"
+         "[HKEY_LOCAL_MACHINE\\Software\\B[1]]\n"
+         "\"last\"=\"no line end\"");
+  EXPECT_EQ(Text(L""), L"default");
+  EXPECT_EQ(Text(L"PATH"), L"C:\\Program Files\\\"Orvane\"");
+  EXPECT_EQ(Text(L"quoted \"name\""), L"x");
+  EXPECT_EQ(Text(L"lines"), L"one\r\ntwo");
+  EXPECT_EQ(Raw(L"number"), "4:fe000000");
+  EXPECT_EQ(Raw(L"short"), "4:05000000");
+  EXPECT_EQ(Raw(L"binary"), "3:0102ff00");
+  EXPECT_EQ(Raw(L"empty"), "3:");
+  EXPECT_EQ(Raw(L"typed"), "1:4100000042000000");
+  EXPECT_EQ(Raw(L"none"), "0:");
+  EXPECT_EQ(Raw(L"multi"), "7:610000000000");
+  EXPECT_EQ(registry.FindText(Hive::LocalMachine, L"Software\\B[1]", L"last"), L"no line end");
+  EXPECT_TRUE(effects.All().empty());
+}
+
+TEST_F(RegFile, TakesBothEncodings) {
+  const std::wstring text = L"[HKEY_CURRENT_USER\\Software\\A]\r\n\"n\"=\"\u00e4\u05d0\U0001F4C1\"";
+  const std::wstring whole = std::wstring(Header.begin(), Header.end()) + text;
+  const std::vector<std::byte> units = ToUtf16(whole);
+  const std::string utf16(reinterpret_cast<const char*>(units.data()), units.size());
+  for (const std::string& bytes :
+       {ToUtf8(whole), "\xEF\xBB\xBF" + ToUtf8(whole), "\xFF\xFE" + utf16}) {
+    registry.RemoveKey(Hive::CurrentUser, L"Software");
+    EXPECT_EQ(ErrorOf(bytes), L"");
+    EXPECT_EQ(Text(L"n"), L"\u00e4\u05d0\U0001F4C1");
+  }
+}
+
+TEST_F(RegFile, RemovesKeysAndValues) {
+  Import(Header +
+         "[HKEY_CURRENT_USER\\Software\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"2\"\r\n@=\"3\"\r\n"
+         "[HKEY_CURRENT_USER\\Software\\Old\\Deep]\r\n[HKEY_CURRENT_USER\\Software\\Older]\r\n");
+  Import(Header +
+         "[HKEY_CURRENT_USER\\Software\\A]\r\n\"a\"=-\r\n@=-\r\n"
+         "[-HKEY_CURRENT_USER\\Software\\OLD]\r\n");
+  EXPECT_EQ(Text(L"a"), std::nullopt);
+  EXPECT_EQ(Text(L""), std::nullopt);
+  EXPECT_EQ(Text(L"b"), L"2");
+  EXPECT_FALSE(registry.HasKey(Hive::CurrentUser, L"Software\\Old\\Deep"));
+  EXPECT_TRUE(registry.HasKey(Hive::CurrentUser, L"Software\\Older"));
+}
+
+TEST_F(RegFile, NamesTheLineOfWhatItCannotRead) {
+  const std::string key = Header + "[HKEY_CURRENT_USER\\Software\\A]\r\n";  // line 3
+  const struct {
+    std::string bytes;
+    const wchar_t* start;
+  } rows[] = {
+      {"", L"line 1: the file does not begin"},
+      {"REGEDIT4\r\n", L"line 1: the file does not begin"},
+      {"Windows Registry Editor Version 5.001", L"line 1: something follows"},
+      {"\xFE\xFF", L"line 1: neither UTF-8 nor UTF-16"},
+      {"\x80", L"line 1: neither UTF-8 nor UTF-16"},
+      {Header + "\"a\"=\"1\"", L"line 3: a value outside a key"},
+      {Header + "[HKEY_CURRENT_USER\\A", L"line 3: the key's closing bracket"},
+      {Header + "[HKCU\\A]", L"line 3: the key does not begin"},
+      {Header + "[]", L"line 3: the key does not begin"},
+      {Header + "[-HKEY_USERS]", L"line 3: a hive cannot be removed"},
+      {Header + "[-HKEY_USERS\\A]\r\n\"a\"=\"1\"", L"line 4: a value outside a key"},
+      {key + "stray", L"line 4: neither a key"},
+      {key + "\"a\"\"1\"", L"line 4: no \"=\""},
+      {key + "\"a\"=", L"line 4: the value is neither"},
+      {key + "\"a\"=\"open\r\n\r\n", L"line 4: the closing quote"},
+      {key + "\"a\"=\"C:\\new\"", L"line 4: a \"\\\" stands alone"},
+      {key + "\"a\"=\"1\" 2", L"line 4: something follows"},
+      {key + "\"a\"=dword:", L"line 4: hexadecimal digits are missing"},
+      {key + "\"a\"=dword:123456789", L"line 4: too many"},
+      {key + "\"a\"=hex:100", L"line 4: too many"},
+      {key + "\"a\"=hex:01,\\\r\n02,\\\r\nxx", L"line 6: something follows"},
+      {key + "\"a\"=hex(:", L"line 4: hexadecimal digits are missing"},
+      {key + "\"a\"=hex(1:", L"line 4: \"hex(\" is not followed"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(ErrorOf(row.bytes).find(row.start), 0u) << row.start << "\n" << ErrorOf(row.bytes);
+  }
+  EXPECT_FALSE(registry.HasKey(Hive::CurrentUser, L"Software\\A")) << "all or nothing";
+}
+
+}  // namespace
+}  // namespace orvane

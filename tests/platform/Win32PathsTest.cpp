@@ -1,0 +1,55 @@
+#ifdef _WIN32
+#include <gtest/gtest.h>
+
+#include "platform/win32/NativePath.h"
+#include "platform/win32/Patience.h"
+
+namespace orvane::win32 {
+namespace {
+
+TEST(Win32Paths, TellsSharesFromTheRest) {
+  const struct {
+    const wchar_t* path;
+    bool onNetwork;
+  } rows[] = {
+      {L"\\\\server\\share\\a", true},
+      {L"\\\\?\\UNC\\server\\share", true},
+      {L"\\\\?\\C:\\a", false},
+      {L"\\\\.\\pipe\\a", false},
+      {L"C:\\a", false},
+      {L"c:", false},
+      {L"relative\\a", false},
+      {L"", false},
+      {L"\\\\?\\", false},
+  };
+  for (const auto& row : rows) EXPECT_EQ(IsOnNetwork(row.path), row.onNetwork) << row.path;
+}
+
+TEST(Win32Paths, LiftsTheLimitOnlyWhereItIsNeeded) {
+  const std::wstring name = L"\\" + std::wstring(250, L'n');
+  EXPECT_EQ(NativePath(L"C:\\a"), L"C:\\a");
+  EXPECT_EQ(NativePath(L"C:" + name), L"\\\\?\\C:" + name);
+  EXPECT_EQ(NativePath(L"C:\\a/..\\." + name), L"\\\\?\\C:" + name);
+  EXPECT_EQ(NativePath(L"\\\\server\\share" + name), L"\\\\?\\UNC\\server\\share" + name);
+  EXPECT_EQ(NativePath(L"\\\\?\\C:" + name), L"\\\\?\\C:" + name);
+}
+
+TEST(Win32Patience, LeavesSlowWorkToItself) {
+  const HANDLE ended = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  const DWORD start = GetTickCount();
+  EXPECT_FALSE(RunWithPatience(
+      [ended] {
+        Sleep(400);
+        SetEvent(ended);
+      },
+      50));
+  EXPECT_LT(GetTickCount() - start, 350u);
+  EXPECT_EQ(WaitForSingleObject(ended, 5'000), WAIT_OBJECT_0);
+  CloseHandle(ended);
+  EXPECT_EQ(AskWithPatience([] { return 7; }, 5'000, 0), 7);
+  EXPECT_EQ(AskWithPatience([] { return Sleep(200), 7; }, 10, 0), 0);
+}
+
+}  // namespace
+}  // namespace orvane::win32
+#endif
