@@ -11,12 +11,12 @@ clsTrace* ActiveDebugTrace() {
   return thread->debug;
 }
 
-std::wstring Hex(std::int32_t number) {
+std::wstring HexNumber::Text() const {
   return clsTrace::ToHex(number);
 }
 
-std::wstring Hex(const void* address) {
-  return Hex(static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(address)));
+HexNumber Hex(const void* address) {
+  return {static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(address))};
 }
 
 void LogLine(const std::wstring& line) {

@@ -26,14 +26,30 @@ std::wstring LogText(Number number) {
   return std::to_wstring(number);
 }
 
-/// "0x" and 8 upper-case hexadecimal digits.
-std::wstring Hex(std::int32_t number);
+/// A number that is shown as "0x" and 8 upper-case hexadecimal digits. It becomes text only where
+/// one is made, so that it costs nothing as part of a line that is not written.
+struct HexNumber {
+  std::int32_t number;
+
+  operator std::wstring() const { return Text(); }
+  std::wstring Text() const;
+  friend std::wstring operator+(std::wstring text, HexNumber number) {
+    return text + number.Text();
+  }
+};
+inline std::wstring LogText(HexNumber number) {
+  return number.Text();
+}
+
+inline HexNumber Hex(std::int32_t number) {
+  return {number};
+}
 template <class Handle>
-requires std::is_enum_v<Handle> std::wstring Hex(Handle handle) {
-  return Hex(ToNumber(handle));
+requires std::is_enum_v<Handle> HexNumber Hex(Handle handle) {
+  return {ToNumber(handle)};
 }
 /// The low 32 bits of an address: enough to tell two apart in a log.
-std::wstring Hex(const void* address);
+HexNumber Hex(const void* address);
 
 /// Writes one finished line to the thread's debug trace.
 void LogLine(const std::wstring& line);

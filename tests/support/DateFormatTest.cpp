@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 
 #include "platform/memory/Locale.h"
 
@@ -99,10 +99,10 @@ TEST(DateFormat, LongFormatsTakeLinearTime) {
   for (const wchar_t* piece :
        {L"d", L"\"", L"a", L"\\", L"am/pm", L"am/p", L"ttttt", L"c", L"h:m"}) {
     std::wstring format;
-    while (format.size() < 100'000) format += piece;
-    const auto start = std::chrono::steady_clock::now();
+    while (format.size() < 10'000) format += piece;
+    const std::clock_t start = std::clock();
     FormatDate(locale, Afternoon, format);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)) << piece;
+    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC) << piece;
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 
 #include "support/FileFilter.h"
 #include "support/Text.h"
@@ -57,12 +57,12 @@ TEST(WildcardPattern, HardPatternsAreQuick) {
     stars += L'*';
     pairs += L"*a";
   }
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   EXPECT_TRUE(WildcardPattern(stars).Matches(name));
   EXPECT_FALSE(WildcardPattern(stars + L"b").Matches(name));
   EXPECT_FALSE(WildcardPattern(pairs).Matches(name));
   EXPECT_FALSE(WildcardPattern(pairs + L"b").Matches(std::wstring(5000, L'a')));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
 TEST(FileFilter, Lists) {
