@@ -1,0 +1,113 @@
+#include "MenuCommand.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <span>
+
+#include "MenuDocument.h"
+#include "menudata/Definition.h"
+#include "platform/memory/Desktop.h"
+#include "support/Utf8.h"
+
+namespace orvane::tool {
+namespace {
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file || std::filesystem::is_directory(path))
+    throw std::runtime_error(path + ": cannot be read");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Writes beside the file and moves the new one over it, so that a failure leaves the old one.
+void ReplaceFile(const std::string& path, std::span<const std::byte> bytes) {
+  const std::string beside = path + ".new";
+  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+  file.write(reinterpret_cast<const char*>(bytes.data()),
+             static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  std::error_code error;
+  if (file) std::filesystem::rename(beside, path, error);
+  if (file && !error) return;
+  std::filesystem::remove(beside, error);
+  throw std::runtime_error(path + ": cannot be written");
+}
+
+/// What reading and writing the file takes of the core.
+struct Tools {
+  memory::Desktop desktop;
+  CodePage codePage{desktop.system.AnsiCharacters()};
+  clsTrace debug{desktop.files,  desktop.boxes, desktop.clock,
+                 desktop.locale, desktop.tcp,   codePage};
+  clsOptions options;
+  clsOrvaneDataTools data{options, debug, desktop.shell};
+};
+
+void WriteMenu(const std::string& json, const std::string& cfg) {
+  Tools tools;
+  try {
+    const ParsedMenu menu = ParseMenu(ReadFile(json));
+    try {
+      ReplaceFile(cfg, WriteDefinition(menu.definition, tools.codePage, tools.debug));
+    } catch (const UnwritableText& error) {
+      throw DocumentError(menu.places[error.Item()] + "/" + std::string(error.Value()) + ": " +
+                          ToUtf8(error.Description()));
+    }
+  } catch (const DocumentError& error) {
+    throw std::runtime_error(json + ": " + error.what());
+  }
+}
+
+void ReadMenu(const std::string& cfg) {
+  Tools tools;
+  const std::string content = ReadFile(cfg);
+  const auto bytes = std::as_bytes(std::span(content));
+  DefinitionFile file({bytes.begin(), bytes.end()}, tools.codePage);
+  try {
+    std::cout << FormatMenu(ReadDefinition(file, tools.data)) << std::flush;
+  } catch (const Error& error) {
+    throw std::runtime_error(cfg + ": " + ToUtf8(error.Description()));
+  } catch (const DocumentError& error) {
+    throw std::runtime_error(cfg + ": " + error.what());
+  }
+  if (!std::cout) throw std::runtime_error("standard output: cannot be written");
+}
+
+template <class Action>
+void Run(int& exitCode, Action action) {
+  try {
+    action();
+    exitCode = 0;
+  } catch (const std::exception& error) {
+    std::cerr << "orvane: " << error.what() << '\n';
+    exitCode = 2;
+  }
+}
+
+}  // namespace
+
+void AddMenuCommand(CLI::App& app, int& exitCode) {
+  struct Arguments {
+    std::string json;
+    std::string cfg;
+  };
+  const auto arguments = std::make_shared<Arguments>();
+  CLI::App* menu =
+      app.add_subcommand("menu", "Turns a readable menu into a definition file, and back");
+  menu->require_subcommand(1);
+
+  CLI::App* write = menu->add_subcommand("write", "Writes the definition file of a JSON document");
+  write->add_option("MENU.json", arguments->json, "The document")->required();
+  write->add_option("FILE.cfg", arguments->cfg, "The definition file to write")->required();
+  write->callback(
+      [=, &exitCode] { Run(exitCode, [&] { WriteMenu(arguments->json, arguments->cfg); }); });
+
+  CLI::App* read = menu->add_subcommand("read", "Prints the JSON document of a definition file");
+  read->add_option("FILE.cfg", arguments->cfg, "The definition file")->required();
+  read->callback([=, &exitCode] { Run(exitCode, [&] { ReadMenu(arguments->cfg); }); });
+}
+
+}  // namespace orvane::tool

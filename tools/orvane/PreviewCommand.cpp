@@ -1,0 +1,101 @@
+#include "PreviewCommand.h"
+
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+
+#include "PreviewJson.h"
+#include "PreviewSession.h"
+#include "platform/memory/MenuText.h"
+#include "support/Utf8.h"
+
+namespace orvane::tool {
+namespace {
+
+struct Arguments {
+  PreviewOptions options;
+  std::string format = "text";
+  bool helpTexts = false;
+};
+
+void PrintText(PreviewSession& session) {
+  const std::string text = ToUtf8(memory::MenuText(session.desktop.menus, session.menu));
+  if (session.Invokes()) session.Invoke();
+  std::cout << text;
+  // The menu alone is the output; what else happened goes beside it.
+  for (const auto& effect : EffectsJson(session.desktop.effects))
+    std::cerr << effect.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+void PrintJson(PreviewSession& session, std::int32_t result, bool helpTexts) {
+  nlohmann::ordered_json json = {{"result", result},
+                                 {"menu", MenuJson(session, session.menu, helpTexts)}};
+  if (session.Invokes()) session.Invoke();
+  json["effects"] = EffectsJson(session.desktop.effects);
+  std::cout << json.dump(1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+void Preview(const Arguments& arguments) {
+  PreviewSession session(arguments.options);
+  const std::int32_t result = session.BuildMenu();
+  if (arguments.format == "json")
+    PrintJson(session, result, arguments.helpTexts);
+  else
+    PrintText(session);
+  if (!std::cout.flush()) throw std::runtime_error("standard output: cannot be written");
+}
+
+void AddOptions(CLI::App& preview, Arguments& arguments) {
+  PreviewOptions& options = arguments.options;
+  // Each repeatable option takes one value, so that a value may begin with anything.
+  const auto repeatable = [&](const char* name, std::vector<std::string>& values,
+                              const char* help) {
+    preview.add_option(name, values, help)->expected(1)->take_all();
+  };
+  preview.add_option("--config", options.config, "Menu definition file")->required();
+  preview.add_option("--registry", options.registry, "Registry export, imported first");
+  preview.add_option("--drive-c", options.driveC,
+                     "Directory that plays drive C:; never written to");
+  preview.add_option("--actions", options.actions, "Custom actions file");
+  preview.add_option("--folder", options.folder, "Folder the menu is for, as a Windows path");
+  repeatable("--select", options.select, "Selected file or folder, as a Windows path (repeatable)");
+  preview.add_option("--id-first", options.idFirst, "First command identifier")
+      ->capture_default_str();
+  preview.add_option("--id-last", options.idLast, "Last command identifier")->capture_default_str();
+  preview.add_option("--format", arguments.format, "Output: text or json")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->capture_default_str();
+  preview.add_flag("--help-texts", arguments.helpTexts, "Add the help texts to the JSON output");
+  repeatable("--open", options.open, "Submenu to open, as \"Caption/Caption\" (repeatable)");
+  auto* invoke =
+      preview.add_option("--invoke", options.invoke, "Entry to choose, as \"Caption/Caption\"");
+  preview.add_option("--verb", options.verb, "Verb to invoke instead")->excludes(invoke);
+  preview.add_flag("--ctrl", options.ctrl, "The Ctrl key is held down");
+  preview.add_flag("--shift", options.shift, "The Shift key is held down");
+  repeatable("--window", options.windows,
+             "Window as CLASS:CAPTION:EXE; the first asks for the menu, the next is its parent "
+             "(repeatable)");
+  repeatable("--answer", options.answers,
+             "Answer to the next dialog: a destination folder, ok, cancel, yes, no, a picked path "
+             "(repeatable)");
+}
+
+}  // namespace
+
+void AddPreviewCommand(CLI::App& app, int& exitCode) {
+  const auto arguments = std::make_shared<Arguments>();
+  CLI::App* preview =
+      app.add_subcommand("preview", "Shows the menu of a right-click on a desktop in memory");
+  AddOptions(*preview, *arguments);
+  preview->callback([arguments, &exitCode] {
+    try {
+      Preview(*arguments);
+      exitCode = 0;
+    } catch (const std::exception& error) {
+      std::cerr << "orvane: " << error.what() << '\n';
+      exitCode = 2;
+    }
+  });
+}
+
+}  // namespace orvane::tool
