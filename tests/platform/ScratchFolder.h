@@ -4,6 +4,10 @@
 #include <random>
 #include <string>
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace orvane {
 
 /// A directory of the machine's own, removed with the object.
@@ -16,20 +20,41 @@ class ScratchFolder {
   }
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder() {
-    std::error_code ignored;
-#ifdef _WIN32
-    std::filesystem::remove_all(L"\\\\?\\" + m_path.wstring(), ignored);  // paths of any length
-#else
-    std::filesystem::remove_all(m_path, ignored);
-#endif
-  }
+  ~ScratchFolder() { RemoveAll(); }
 
-  const std::filesystem::path& Path() const {
-    return m_path;
-  }
+  const std::filesystem::path& Path() const { return m_path; }
 
  private:
+#ifdef _WIN32
+  // The library's own stops at paths of 260 characters.
+  void RemoveAll() {
+    RemoveAll(L"\\\\?\\" + m_path.wstring());
+  }
+
+  static void RemoveAll(const std::wstring& folder) {
+    WIN32_FIND_DATAW found;
+    const HANDLE walk = FindFirstFileW((folder + L"\\*").c_str(), &found);
+    if (walk == INVALID_HANDLE_VALUE) return;
+    do {
+      const std::wstring name = found.cFileName;
+      const std::wstring path = folder + L"\\" + name;
+      if (name == L"." || name == L"..") continue;
+      if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
+        RemoveAll(path);
+      } else {
+        DeleteFileW(path.c_str());
+      }
+    } while (FindNextFileW(walk, &found));
+    FindClose(walk);
+    RemoveDirectoryW(folder.c_str());
+  }
+#else
+  void RemoveAll() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+  }
+#endif
+
   std::filesystem::path m_path;
 };
 
