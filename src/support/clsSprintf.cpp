@@ -192,13 +192,13 @@ std::wstring clsSprintf::Sprintf(const std::wstring& format, const std::vector<V
   return TreatBackSlash(result.append(format, position));
 }
 
-std::wstring clsSprintf::BuildFormat(std::wstring_view specification, std::int32_t type, bool upper,
+std::wstring clsSprintf::BuildFormat(std::wstring_view conversion, std::int32_t type, bool upper,
                                      const Value& value) {
-  if (specification.size() < 2) return {};
+  if (conversion.size() < 2) return {};
   const std::size_t letters = type == TypeLong ? 2 : 1;
-  if (specification.size() <= letters) return {};
-  const wchar_t letter = specification.back();
-  const Layout layout = ReadLayout(specification.substr(1, specification.size() - 1 - letters));
+  if (conversion.size() <= letters) return {};
+  const wchar_t letter = conversion.back();
+  const Layout layout = ReadLayout(conversion.substr(1, conversion.size() - 1 - letters));
   switch (type) {
     case TypeString:
       return Padded(upper ? UpperCase(ToText(value)) : ToText(value), layout);

@@ -28,7 +28,7 @@ class clsSprintf {
   static std::wstring Sprintf(const std::wstring& format, const std::vector<Value>& values);
 
   /// One conversion, from its "%" to its letter. Error 6 when width or precision exceed 32767.
-  static std::wstring BuildFormat(std::wstring_view specification, std::int32_t type, bool upper,
+  static std::wstring BuildFormat(std::wstring_view conversion, std::int32_t type, bool upper,
                                   const Value& value);
 
   /// \\ \a \b \f \t \v as in C, \n is CR LF, \r is LF, \x and two hexadecimal digits the character
