@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <span>
+#include <vector>
 
 #include "platform/win32/Windows.h"
 
@@ -117,6 +119,24 @@ class Typist {
   bool m_own = false;
 };
 
+/// Lets go of the keys that a text broken off after `sent` holds: they would stay down for the
+/// user.
+void Release(std::span<const KeyEvent> sent) {
+  std::vector<KeyEvent> held;
+  for (const KeyEvent& event : sent) {
+    if (event.up) {
+      std::erase_if(held, [&](const KeyEvent& key) { return key.code == event.code; });
+    } else if (event.kind == KeyEvent::Kind::VirtualKey) {
+      held.push_back(event);
+    }
+  }
+  for (KeyEvent& event : held) {
+    event.up = true;
+    INPUT input = InputOf(event);
+    SendInput(1, &input, sizeof input);
+  }
+}
+
 }  // namespace
 
 bool Keyboard::IsDown(std::uint16_t virtualKey) {
@@ -131,7 +151,11 @@ void Keyboard::Press(std::uint16_t virtualKey, bool up) {
 
 bool Keyboard::Type(const std::wstring&, const std::vector<KeyEvent>& events) {
   Typist typist;
-  return std::ranges::all_of(events, [&](const KeyEvent& event) { return typist.Type(event); });
+  const auto refused =
+      std::ranges::find_if_not(events, [&](const KeyEvent& event) { return typist.Type(event); });
+  if (refused == events.end()) return true;
+  Release({events.begin(), refused + 1});
+  return false;
 }
 
 }  // namespace orvane::win32
