@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "platform/win32/Keyboard.h"
+#include "platform/win32/Processes.h"
 #include "support/Utf16.h"
 #endif
 
@@ -97,10 +98,10 @@ class EditWindow {
   HANDLE m_thread = nullptr;
 };
 
-class Win32Keyboard : public testing::TestWithParam<bool> {};
-INSTANTIATE_TEST_SUITE_P(Threads, Win32Keyboard, testing::Bool());
+class Win32KeyboardThreads : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(Win32, Win32KeyboardThreads, testing::Bool());
 
-TEST_P(Win32Keyboard, TypesTextAndKeysAndReturnsWhenTheyArrived) {
+TEST_P(Win32KeyboardThreads, TypesTextAndKeysAndReturnsWhenTheyArrived) {
   EditWindow edit(GetParam());
   win32::Keyboard keyboard;
   const std::wstring text = L"C:\\R&D \u00e4\u05d0\u4e2d + {x} \U0001F600";
@@ -120,12 +121,36 @@ TEST_P(Win32Keyboard, TypesTextAndKeysAndReturnsWhenTheyArrived) {
   EXPECT_FALSE(keyboard.IsDown(Keyboard::Shift));
 }
 
-TEST_P(Win32Keyboard, TypesALongText) {
+TEST_P(Win32KeyboardThreads, TypesALongText) {
   EditWindow edit(GetParam());
   std::wstring text;
   for (int i = 0; i < 40; ++i) text += L"line " + std::to_wstring(i) + L";";
   EXPECT_TRUE(win32::Keyboard().Type(text, Characters(text)));
   EXPECT_EQ(edit.Text(), text);
+}
+
+TEST(Win32Keyboard, TypesIntoAnotherProgram) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION editor{};
+  wchar_t line[] = L"notepad.exe";
+  ASSERT_TRUE(CreateProcessW(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                             &editor));
+  WaitForInputIdle(editor.hProcess, 10'000);
+  win32::Processes processes;
+  HWND edit = nullptr;
+  for (int i = 0; i < 200 && !edit; ++i, Sleep(50)) {
+    edit = FindWindowExW(FindWindowW(L"Notepad", nullptr), nullptr, L"Edit", nullptr);
+  }
+  EXPECT_TRUE(processes.Activate(editor.dwProcessId));
+  const std::wstring text = L"R&D \u00e4\u05d0 {1} + 2";
+  EXPECT_TRUE(win32::Keyboard().Type(text, Characters(text)));
+  wchar_t typed[100] = L"";
+  SendMessageW(edit, WM_GETTEXT, 100, reinterpret_cast<LPARAM>(typed));
+  EXPECT_EQ(typed, text);
+  TerminateProcess(editor.hProcess, 0);
+  CloseHandle(editor.hThread);
+  CloseHandle(editor.hProcess);
 }
 #endif
 

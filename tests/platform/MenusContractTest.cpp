@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <set>
-
 #include "platform/memory/Menus.h"
 #ifdef _WIN32
+#include <windows.h>
+
 #include "platform/win32/Menus.h"
+#include "platform/win32/NativeHandles.h"
 #endif
 
 namespace orvane {
@@ -159,6 +159,41 @@ TYPED_TEST(MenusContract, HoldsManyEntriesAndLevels) {
   }
   this->menus.Destroy(child);
 }
+
+#ifdef _WIN32
+TEST(Win32Menus, HandOverStateKindAndBitmap) {
+  win32::Menus menus;
+  const UniqueMenu menu(menus, menus.CreatePopup());
+  const HBITMAP picture = CreateBitmap(16, 16, 1, 1, nullptr);
+  menus.Insert(menu.get(), Menus::Append,
+               {.caption = L"plain", .id = 7, .bitmap = win32::FromNative<BitmapHandle>(picture)});
+  menus.Insert(menu.get(), Menus::Append,
+               {.caption = L"drawn", .state = MenuEntry::State::Disabled, .ownerDraw = true});
+  menus.Insert(menu.get(), Menus::Append, {.caption = L"gray", .state = MenuEntry::State::Grayed});
+
+  struct Row {
+    UINT type;
+    UINT state;
+    HBITMAP bitmap;
+    UINT id;
+  };
+  const Row rows[] = {{MFT_STRING, MFS_ENABLED, picture, 7},
+                      {MFT_OWNERDRAW, MF_DISABLED, nullptr, 0},
+                      {MFT_STRING, MFS_GRAYED, nullptr, 0}};
+  for (UINT i = 0; i < std::size(rows); ++i) {
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_CHECKMARKS | MIIM_ID;
+    ASSERT_TRUE(GetMenuItemInfoW(win32::ToNative<HMENU>(menu.get()), i, TRUE, &info));
+    EXPECT_EQ(info.fType, rows[i].type) << i;
+    EXPECT_EQ(info.fState, rows[i].state) << i;
+    EXPECT_EQ(info.hbmpUnchecked, rows[i].bitmap) << i;
+    EXPECT_EQ(info.hbmpChecked, rows[i].bitmap) << i;
+    EXPECT_EQ(info.wID, rows[i].id) << i;
+  }
+  DeleteObject(picture);
+}
+#endif
 
 }  // namespace
 }  // namespace orvane
