@@ -65,26 +65,45 @@ void frmClipboardProgress::BuildSelectionList(bool bRecursive) {
 void frmClipboardProgress::BuildLists(const FileNames& names, bool recursive) {
   if (m_Data) m_filter.emplace(m_Data->m_szSelection_Filter);
   const bool needsKind = recursive || (m_filter && !m_filter->IsEmpty());
+  if (!needsKind) Reserve(names);
+  std::wstring found;
+  std::wstring name;
   for (std::wstring_view rest = names.All(); !rest.empty() && !m_bStop;) {
-    const std::wstring name(FileNames::Take(rest));
-    Log(L"szFilename=", name);
-    const bool isFolder = needsKind && IsDirectory(m_files, name);
-    Add(name, GetName(name), isFolder);
-    if (isFolder && recursive) BuildSelectionList_(name);
+    found = FileNames::Take(rest);
+    Log(L"szFilename=", found);
+    const bool isFolder = needsKind && IsDirectory(m_files, found);
+    name = found;
+    GetName(name);
+    Add(found, name, isFolder);
+    if (isFolder && recursive) BuildSelectionList_(found);
   }
+}
+
+/// Every name is going to be in the lists, in about its own length.
+void frmClipboardProgress::Reserve(const FileNames& names) {
+  const auto reserve = [&](std::wstring& list, std::size_t perName) {
+    list.reserve(names.All().size() + names.Count() * perName);
+  };
+  if (!m_Data) return reserve(m_lines, LineEnd.size());
+  reserve(m_szCmdLine,
+          m_Data->m_szSelection_CmdPrefix.size() + m_Data->m_szSelection_CmdSuffix.size());
+  reserve(m_szFile,
+          m_Data->m_szSelection_FilePrefix.size() + m_Data->m_szSelection_FileSuffix.size());
 }
 
 void frmClipboardProgress::BuildSelectionList_(const std::wstring& szDir) {
   std::deque<Level> levels;
   Enter(levels, m_files, szDir);
   FoundFile found;
+  std::wstring full;
   while (!levels.empty() && !m_bStop) {
     const Level& level = levels.back();
     if (!level.listing->Next(found)) {
       levels.pop_back();
       continue;
     }
-    const std::wstring full = GetName(level.folder + found.name);
+    full.assign(level.folder).append(found.name);
+    GetName(full);
     Add(full, full, IsFolder(found));
     if (!IsFolder(found)) continue;
     SetFolder(full);
@@ -117,10 +136,10 @@ void frmClipboardProgress::ProcessFilename(const std::wstring& found, const std:
   append(m_szFile, m_Data->m_szSelection_FilePrefix, m_Data->m_szSelection_FileSuffix);
 }
 
-std::wstring frmClipboardProgress::GetName(std::wstring szName) const {
-  if (!m_bShortNames) return szName;
+void frmClipboardProgress::GetName(std::wstring& szName) const {
+  if (!m_bShortNames) return;
   std::wstring shortName = m_files.ShortName(szName);
-  return shortName.empty() ? szName : shortName;
+  if (!shortName.empty()) szName = std::move(shortName);
 }
 
 void frmClipboardProgress::SetFolder(const std::wstring& szFolder) {

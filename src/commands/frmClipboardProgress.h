@@ -45,13 +45,15 @@ class frmClipboardProgress : public ProgressModel {
 
  private:
   void BuildLists(const FileNames& names, bool recursive);
+  void Reserve(const FileNames& names);
   /// Lists everything under the folder, each folder before its contents, in the file system's
   /// order.
   void BuildSelectionList_(const std::wstring& szDir);
   /// `found` is what the filter looks at, `name` what is written.
   void Add(const std::wstring& found, const std::wstring& name, bool isFolder);
   void ProcessFilename(const std::wstring& found, const std::wstring& name, bool isFolder);
-  std::wstring GetName(std::wstring szName) const;
+  /// Turns a name into the form that is written.
+  void GetName(std::wstring& szName) const;
   void SetFolder(const std::wstring& szFolder);
 
   FileReader& m_files;
