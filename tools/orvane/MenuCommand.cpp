@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <span>
 
+#include "HostFile.h"
 #include "MenuDocument.h"
 #include "menudata/Definition.h"
 #include "platform/memory/Desktop.h"
@@ -14,13 +14,6 @@
 
 namespace orvane::tool {
 namespace {
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path))
-    throw std::runtime_error(path + ": cannot be read");
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// Writes beside the file and moves the new one over it, so that a failure leaves the old one.
 void ReplaceFile(const std::string& path, std::span<const std::byte> bytes) {
@@ -49,7 +42,7 @@ struct Tools {
 void WriteMenu(const std::string& json, const std::string& cfg) {
   Tools tools;
   try {
-    const ParsedMenu menu = ParseMenu(ReadFile(json));
+    const ParsedMenu menu = ParseMenu(ReadHostFile(json));
     try {
       ReplaceFile(cfg, WriteDefinition(menu.definition, tools.codePage, tools.debug));
     } catch (const UnwritableText& error) {
@@ -63,7 +56,7 @@ void WriteMenu(const std::string& json, const std::string& cfg) {
 
 void ReadMenu(const std::string& cfg) {
   Tools tools;
-  const std::string content = ReadFile(cfg);
+  const std::string content = ReadHostFile(cfg);
   const auto bytes = std::as_bytes(std::span(content));
   DefinitionFile file({bytes.begin(), bytes.end()}, tools.codePage);
   try {

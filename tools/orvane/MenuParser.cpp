@@ -97,12 +97,12 @@ class Parser {
 
   void AddItems(const Json& items, std::int32_t parent, const std::string& place, int depth) {
     if (!items.is_array()) Fail(place, "must be a list");
-    if (depth > MaxDepth)
-      Fail(place, "is nested deeper than " + std::to_string(MaxDepth) + " popups");
     for (std::size_t i = 0; i < items.size(); ++i) {
       const std::string itemPlace = place + "/" + std::to_string(i);
       const Json& item = items[i];
       if (!item.is_object()) Fail(itemPlace, "must be an object");
+      if (depth > MaxDepth)
+        Fail(itemPlace, "is nested deeper than " + std::to_string(MaxDepth) + " popups");
       const auto type = item.find("type");
       if (type == item.end()) Fail(itemPlace, "has no type");
       AddItem(item, NumberOf(*type, TypeNames, itemPlace + "/type"), parent, itemPlace, depth);
