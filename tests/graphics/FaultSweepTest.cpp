@@ -2,46 +2,10 @@
 
 #include <memory>
 
-#include "graphics/Bitmaps.h"
-#include "graphics/MenuDesk.h"
-#include "graphics/clsPaintEffects.h"
-#include "graphics/clsQuickGDI.h"
+#include "graphics/DrawEverything.h"
 
 namespace orvane::test {
 namespace {
-
-/// Everything that draws, once.
-void DrawEverything(MenuDesk& desk) {
-  desk.desktop.files.AddFile(L"C:\\a.txt");
-  desk.desktop.files.AddFile(L"C:\\b.exe");
-  desk.Load();
-  for (bool ownerDraw : {true, false}) {
-    desk.options.m_bShellOwnerDraw = ownerDraw;
-    desk.AddFile(1, L"C:\\a.txt");
-    desk.AddFile(2, L"C:\\b.exe");
-    desk.Record(3, clsOrvaneData::TypeSelectionTask, L"&Task");
-    desk.Add(desk.menu, 3, L"&Task", 8);
-  }
-  memory::Gdi& gdi = desk.desktop.gdi;
-  const UniqueScreen screen(gdi, gdi.OpenScreen());
-  const UniqueContext context(gdi, gdi.CreateContext());
-  const UniqueBitmap bitmap(gdi, gdi.CreateCompatible(screen.get(), {100, 30}));
-  const Selected selected(gdi, context.get(), bitmap.get());
-  for (std::int32_t id : {1, 2, 3, 4}) {
-    desk.Measure(id);
-    desk.Draw(id, 0, context.get(), {0, 0, 100, 20});
-    desk.Draw(id, DrawItem::Selected, context.get(), {0, 0, 100, 20});
-  }
-  gdi.dpi = 192;
-  desk.Measure(3);
-  desk.Draw(3, 0, context.get(), {0, 0, 100, 20});
-
-  clsPaintEffects effects(gdi);
-  effects.PaintTransparentDC(context.get(), 0, 0, 20, 20, context.get(), 5, 5, 0);
-  const UniqueBitmap picture(gdi, gdi.CreateCompatible(screen.get(), {10, 10}));
-  effects.PaintTransparentStdPic(context.get(), 0, 0, 10, 10, {StdPicture::Bitmap, picture.get()},
-                                 0, 0, 0);
-}
 
 TEST(GraphicsFaultSweep, NothingIsLeftBehindWhicheverCallFails) {
   std::size_t calls = 0;

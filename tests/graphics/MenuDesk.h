@@ -10,20 +10,26 @@
 
 namespace orvane::test {
 
-/// An owner-drawn menu on the memory desktop, with the records that a handler would keep.
+/// An owner-drawn menu on the memory desktop, with the records that a handler would keep. Drawing
+/// and icons may be the real ones.
 class MenuDesk : private MenuItemLookup {
  public:
-  MenuDesk() { options.m_lShellShowIcons = clsOptions::OptionLevel_Medium; }
+  explicit MenuDesk(Gdi* realGdi = nullptr, ShellIcons* realIcons = nullptr)
+      : gdi(realGdi ? *realGdi : desktop.gdi),
+        drawing(options, desktop.menus, gdi, realIcons ? *realIcons : desktop.icons, desktop.files,
+                bitmaps, *this) {
+    options.m_lShellShowIcons = clsOptions::OptionLevel_Medium;
+  }
   ~MenuDesk() override {
     if (menu != MenuHandle::None) desktop.menus.Destroy(menu);
     if (shellMenu != MenuHandle::None) desktop.menus.Destroy(shellMenu);
-    DeleteMenuBitmaps(desktop.gdi, bitmaps);
+    DeleteMenuBitmaps(gdi, bitmaps);
   }
 
   void Load() {
     menu = desktop.menus.CreatePopup();
     shellMenu = desktop.menus.CreatePopup();
-    LoadMenuBitmaps(desktop.gdi, bitmaps);
+    LoadMenuBitmaps(gdi, bitmaps);
     drawing.ShellMenu(shellMenu);
   }
 
@@ -73,13 +79,13 @@ class MenuDesk : private MenuItemLookup {
   BitmapHandle PictureOf(std::int32_t id) { return OwnerDrawMenu_HasBitmap(id); }
 
   memory::Desktop desktop;
+  Gdi& gdi;
   clsOptions options;
   clsCollection bitmaps;
   std::map<std::int32_t, clsOrvaneData> records;
   MenuHandle menu = MenuHandle::None;
   MenuHandle shellMenu = MenuHandle::None;
-  OwnerDrawMenu drawing{options,       desktop.menus, desktop.gdi, desktop.icons,
-                        desktop.files, bitmaps,       *this};
+  OwnerDrawMenu drawing;
 
  private:
   std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) override {

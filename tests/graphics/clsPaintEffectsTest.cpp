@@ -87,7 +87,7 @@ TEST_P(PaintEffectsTest, WhatCannotBePaintedLeavesTheDestination) {
   paint(0, 10, source.Context(), Mask);
   paint(10, -1, source.Context(), Mask);
   paint(10, 10, DeviceContext::None, Mask);
-  paint(10, 10, source.Context(), 0x80004711);
+  paint(10, 10, source.Context(), 0x800000FF);
   m_effects.PaintTransparentDC(DeviceContext::None, 0, 0, 10, 10, source.Context(), 0, 0, Mask);
 }
 

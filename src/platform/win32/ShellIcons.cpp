@@ -79,6 +79,7 @@ class ImageList {
 }  // namespace
 
 std::optional<SystemIcon> ShellIcons::Find(const std::wstring& path) {
+  if (path.empty()) return std::nullopt;  // the desktop, to the shell
   return Ask(path, 0, 0);
 }
 
