@@ -70,6 +70,7 @@ PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(option
     if (!std::filesystem::is_directory(options.driveC))
       throw std::runtime_error(options.driveC + ": is no directory");
     desktop.files.Mount(L"C:", options.driveC);
+    desktop.files.AddFolder(desktop.system.programFolder);  // where logs go
   }
   if (!options.registry.empty()) Import(options.registry, desktop.registry);
   Place(desktop, options.config, L"ShellConfigFile", L"Default.cfg");

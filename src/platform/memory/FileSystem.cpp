@@ -1,6 +1,7 @@
 #include "platform/memory/FileSystem.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "platform/memory/Windows1252.h"
@@ -208,6 +209,7 @@ FileNode& FileSystem::AddFolder(const std::wstring& path) {
 FileNode& FileSystem::AddFile(const std::wstring& path, std::string_view content,
                               std::uint32_t attributes) {
   Names names = Split(path);
+  if (names.size() < 2) throw std::invalid_argument("no file can have the name of a drive");
   const std::wstring name = names.back();
   names.pop_back();
   FileNode& folder = AddFolder(Joined(names));
