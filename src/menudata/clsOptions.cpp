@@ -68,7 +68,12 @@ constexpr Setting Settings[] = {
     {L"GeneralSaveWindowPos", &clsOptions::m_bGeneralSaveWindowPos},
 };
 
-constexpr std::pair<const wchar_t*, Field> LoggedFields[] = {
+struct LoggedField {
+  const wchar_t* name;
+  Field field;
+};
+
+constexpr LoggedField LoggedFields[] = {
     {L"m_bGeneralShowBackground: ", &clsOptions::m_bGeneralShowBackground},
     {L"m_bGeneralAllowMultipleInstances: ", &clsOptions::m_bGeneralAllowMultipleInstances},
     {L"m_bGeneralSaveWindowPos: ", &clsOptions::m_bGeneralSaveWindowPos},
@@ -119,8 +124,8 @@ void LogMachine(SystemInfo& system) {
 }
 
 void LogSettings(const clsOptions& options) {
-  for (const auto& [name, field] : LoggedFields)
-    std::visit([&](auto member) { Log(name, options.*member); }, field);
+  for (const LoggedField& logged : LoggedFields)
+    std::visit([&](auto field) { Log(logged.name, options.*field); }, logged.field);
 }
 
 void WriteSettings(RegistryKey& key, const clsOptions& options, std::initializer_list<Use> uses) {
