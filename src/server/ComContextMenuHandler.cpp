@@ -32,6 +32,8 @@ HRESULT ComContextMenuHandler::QueryInterface(REFIID iid, void** object) noexcep
     *object = static_cast<IShellExtInit*>(this);
   } else if (iid == IID_IContextMenu || iid == IID_IContextMenu2 || iid == IID_IContextMenu3) {
     *object = static_cast<IContextMenu3*>(this);
+  } else if (iid == IID_IDispatch || iid == IidContextMenuHandler) {
+    *object = static_cast<IContextMenuHandler*>(this);
   } else {
     return E_NOINTERFACE;
   }

@@ -6,6 +6,9 @@
 
 #include <atomic>
 
+#include "server/Automation.h"
+#include "server/AutomationInterfaces.h"
+#include "server/Guid.h"
 #include "server/Module.h"
 #include "server/ThreadModule.h"
 #include "shellext/ContextMenuHandler.h"
@@ -14,7 +17,9 @@ namespace orvane::server {
 
 /// The COM object that the shell holds: checks what the shell hands over, turns it into the
 /// handler's types and keeps exceptions in. Lives in the apartment that made it.
-class ComContextMenuHandler final : public IShellExtInit, public IContextMenu3 {
+class ComContextMenuHandler final : public IShellExtInit,
+                                    public IContextMenu3,
+                                    public Automation<IContextMenuHandler, IidContextMenuHandler> {
  public:
   /// A new object with a reference count of 1.
   static IUnknown* Create();
@@ -35,6 +40,20 @@ class ComContextMenuHandler final : public IShellExtInit, public IContextMenu3 {
                                           LPARAM lParam) noexcept override;
   HRESULT STDMETHODCALLTYPE HandleMenuMsg2(UINT message, WPARAM wParam, LPARAM lParam,
                                            LRESULT* result) noexcept override;
+
+  // For scripts: the handler's own methods.
+  HRESULT STDMETHODCALLTYPE IContextMenu_QueryContextMenuEx(LONG hMenu, LONG indexMenu,
+                                                            LONG idCmdFirst, LONG idCmdLast,
+                                                            LONG uFlags,
+                                                            LONG* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CreateMenu(VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetRootExplorerWindow(LONG hWnd, LONG* found) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetRootOfficeWindow(LONG hWnd, LONG* found) noexcept override;
+  HRESULT STDMETHODCALLTYPE IsIE(LONG hWnd, VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CanInsertMenuCommand(VARIANT_BOOL bShowError, VARIANT_BOOL bInternal,
+                                                 VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE OwnerDrawMenu_GetCaption(LONG lId, BSTR* caption) noexcept override;
+  HRESULT STDMETHODCALLTYPE OwnerDrawMenu_HasBitmap(LONG lId, LONG* hBitmap) noexcept override;
 
  private:
   ComContextMenuHandler() = default;

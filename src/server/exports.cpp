@@ -8,12 +8,24 @@
 
 #include "server/ClassFactory.h"
 #include "server/ComContextMenuHandler.h"
+#include "server/DrawingClasses.h"
 #include "server/Guarded.h"
 #include "server/Guid.h"
 #include "server/Module.h"
 #include "server/Registration.h"
 
 using namespace orvane::server;
+
+namespace {
+
+ClassFactory::Create CreatorOf(REFCLSID clsid) {
+  if (clsid == ClsidContextMenuHandler) return ComContextMenuHandler::Create;
+  if (clsid == ClsidQuickGdi) return CreateQuickGdi;
+  if (clsid == ClsidPaintEffects) return CreatePaintEffects;
+  return nullptr;
+}
+
+}  // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
   if (reason == DLL_PROCESS_ATTACH) Module::Handle(module);
@@ -23,8 +35,9 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
 STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
-  if (clsid != ClsidContextMenuHandler) return CLASS_E_CLASSNOTAVAILABLE;
-  auto* factory = new (std::nothrow) ClassFactory(ComContextMenuHandler::Create);
+  const ClassFactory::Create create = CreatorOf(clsid);
+  if (!create) return CLASS_E_CLASSNOTAVAILABLE;
+  auto* factory = new (std::nothrow) ClassFactory(create);
   if (!factory) return E_OUTOFMEMORY;
   const HRESULT result = factory->QueryInterface(iid, object);
   factory->Release();
