@@ -31,7 +31,6 @@ std::int32_t TextColourIndex(const DrawItem& item) {
 }  // namespace
 
 void MenuPainter::Measure(MeasureItem& item, const std::wstring& text) {
-  SetDpi(m_gdi.Dpi());
   Size extent;
   {
     const UniqueContext context(m_gdi, m_gdi.CreateContext());
@@ -89,23 +88,29 @@ void MenuPainter::DrawPicture(const DrawItem& item, const Rect& area, BitmapHand
   drawing.ThreedBox(Pixels(1), area.top, Pixels(21), area.bottom - Pixels(1), false);
 }
 
-std::int32_t MenuPainter::Pixels(std::int32_t unscaled) {
-  if (m_dpi == 0) SetDpi(m_gdi.Dpi());
-  return (unscaled * m_dpi + UnscaledDpi / 2) / UnscaledDpi;
+void MenuPainter::MenuOpens() {
+  m_dpi = 0;
+  m_font = FontHandle::None;
+  m_menuFont.reset();
 }
 
-void MenuPainter::SetDpi(std::int32_t dpi) {
-  dpi = std::clamp(dpi, UnscaledDpi, 10 * UnscaledDpi);
-  if (dpi != m_dpi) m_menuFont.reset();
-  m_dpi = dpi;
+std::int32_t MenuPainter::Dpi() {
+  if (m_dpi == 0) m_dpi = std::clamp(m_gdi.Dpi(), UnscaledDpi, 10 * UnscaledDpi);
+  return m_dpi;
+}
+
+std::int32_t MenuPainter::Pixels(std::int32_t unscaled) {
+  return (unscaled * Dpi() + UnscaledDpi / 2) / UnscaledDpi;
 }
 
 FontHandle MenuPainter::Font() {
-  const FontHandle desktop = m_gdi.DesktopFont();
-  if (desktop != FontHandle::None) return desktop;
-  if (m_dpi == 0) SetDpi(m_gdi.Dpi());
-  if (!m_menuFont) m_menuFont = UniqueFont(m_gdi, m_gdi.MenuFont(m_dpi));
-  return m_menuFont.get();
+  if (m_font != FontHandle::None) return m_font;
+  m_font = m_gdi.DesktopFont();
+  if (m_font == FontHandle::None) {
+    m_menuFont = UniqueFont(m_gdi, m_gdi.MenuFont(Dpi()));
+    m_font = m_menuFont.get();
+  }
+  return m_font;
 }
 
 }  // namespace orvane

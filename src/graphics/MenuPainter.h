@@ -15,6 +15,10 @@ class MenuPainter {
  public:
   explicit MenuPainter(Gdi& gdi) : m_gdi(gdi) {}
 
+  /// A menu opens, perhaps on another screen: what was found out about screen and font is asked
+  /// again. Asking for every entry would cost more than painting it.
+  void MenuOpens();
+
   /// `text` is what will be read: no marks in it.
   void Measure(MeasureItem& item, const std::wstring& text);
 
@@ -25,8 +29,8 @@ class MenuPainter {
   std::int32_t PictureSize() { return Pixels(16); }
 
  private:
+  std::int32_t Dpi();
   std::int32_t Pixels(std::int32_t unscaled);
-  void SetDpi(std::int32_t dpi);
   FontHandle Font();
   void DrawCaption(const DrawItem& item, const Rect& area, const std::wstring& caption,
                    bool hasPicture);
@@ -34,7 +38,8 @@ class MenuPainter {
 
   Gdi& m_gdi;
   std::int32_t m_dpi = 0;  // 0 until it is asked for
-  UniqueFont m_menuFont;
+  FontHandle m_font = FontHandle::None;
+  UniqueFont m_menuFont;  // m_font, when the desktop has none of its own
 };
 
 }  // namespace orvane

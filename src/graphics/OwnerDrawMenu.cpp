@@ -71,6 +71,7 @@ OwnerDrawMenu::OwnerDrawMenu(const clsOptions& options, Menus& menus, Gdi& gdi, 
 void OwnerDrawMenu::ShellMenu(MenuHandle menu) {
   m_shellMenu = menu;
   m_fileNames.clear();
+  m_painter.MenuOpens();
 }
 
 bool OwnerDrawMenu::AddMenuWithBitmap(const NewMenuItem& item) {
@@ -136,6 +137,7 @@ BitmapHandle OwnerDrawMenu::Picture(clsOrvaneData& record) {
 bool OwnerDrawMenu::HandleMessage(std::uint32_t message, std::intptr_t wParam,
                                   std::intptr_t lParam) {
   TraceScope scope(L"OwnerDrawMenu");
+  if (message == MenuMessage::InitMenuPopup) m_painter.MenuOpens();
   if (lParam == 0) return false;
   try {
     if (message == MenuMessage::MeasureItem) {

@@ -28,6 +28,7 @@ inline void DrawEverything(MenuDesk& desk) {
     desk.Draw(id, DrawItem::Selected, context.get(), {0, 0, 100, 20});
   }
   desk.desktop.gdi.dpi = 192;
+  desk.Open();
   desk.Measure(3);
   desk.Draw(3, 0, context.get(), {0, 0, 100, 20});
 

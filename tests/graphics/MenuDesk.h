@@ -63,6 +63,9 @@ class MenuDesk : private MenuItemLookup {
                                       .record = &records[id]});
   }
 
+  /// The menu opens (again), on the screen as it is now.
+  void Open() { drawing.HandleMessage(MenuMessage::InitMenuPopup, 0, 0); }
+
   MeasureItem Measure(std::int32_t id) {
     MeasureItem item{.id = id};
     drawing.HandleMessage(MenuMessage::MeasureItem, 0, reinterpret_cast<std::intptr_t>(&item));

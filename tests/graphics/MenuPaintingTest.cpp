@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <utility>
 
 #include "common/AnyGdi.h"
 #include "graphics/ColConst.h"
@@ -57,19 +58,22 @@ TEST_F(MenuPaintingTest, SizesGrowWithTheScreen) {
   } rows[] = {{96, 20, 25}, {120, 25, 31}, {144, 30, 38}, {192, 40, 50}, {72, 20, 25}, {0, 20, 25}};
   for (const auto& row : rows) {
     m_desk.desktop.gdi.dpi = row.dpi;
+    m_desk.Open();
     const MeasureItem item = m_desk.Measure(Unknown);
     EXPECT_EQ(item.height, row.height);
     EXPECT_EQ(item.width, row.margin);
   }
   m_desk.desktop.gdi.dpi = 192;
+  m_desk.Open();
   EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 16 + 50) << "the font grows too";
 }
 
 TEST_F(MenuPaintingTest, TheDesktopsOwnFontComesFirst) {
   m_desk.desktop.gdi.desktopFont = m_desk.desktop.gdi.AddFont({5, 9});
   EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 5 + 25);
-  m_desk.desktop.gdi.FreeFont(m_desk.desktop.gdi.desktopFont);
-  m_desk.desktop.gdi.desktopFont = FontHandle::None;
+  m_desk.desktop.gdi.FreeFont(std::exchange(m_desk.desktop.gdi.desktopFont, FontHandle::None));
+  m_desk.Open();
+  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 8 + 25);
 }
 
 TEST_F(MenuPaintingTest, GroundsOfAnEntry) {
@@ -156,6 +160,7 @@ TEST_F(MenuPaintingTest, FileNamesArePaintedLetterForLetter) {
 
 TEST_F(MenuPaintingTest, EverythingTwiceAsLargeAt192Dpi) {
   m_desk.desktop.gdi.dpi = 192;
+  m_desk.Open();
   Canvas canvas(m_desk.desktop.gdi, {320, 80});
   Paint(canvas, WithPicture, 0, {0, 20, 300, 60});
   EXPECT_EQ(canvas.Pixel(43, 30), System(ColConst::Menu));

@@ -194,6 +194,7 @@ TEST_F(IconTest, WhoseIconIsWhose) {
 
 TEST_F(IconTest, LargeScreensAskForLargeIcons) {
   m_desk.desktop.gdi.dpi = 192;
+  m_desk.Open();
   m_desk.AddFile(1, L"C:\\a.txt");
   const auto shape = m_desk.desktop.gdi.Describe(m_desk.PictureOf(1));
   ASSERT_TRUE(shape);

@@ -70,12 +70,10 @@ std::optional<Size> Gdi::MeasureText(DeviceContext context, const std::wstring& 
 }
 
 std::optional<Size> Gdi::DisplayFontCell() {
-  HDC display = CreateICW(L"DISPLAY", nullptr, nullptr, nullptr);
-  if (!display) return std::nullopt;
+  // A fresh memory context has the display's font, and costs a hundredth of an information context.
+  const UniqueContext context(*this, CreateContext());
   TEXTMETRICW metrics;
-  const BOOL known = GetTextMetricsW(display, &metrics);
-  DeleteDC(display);
-  if (!known) return std::nullopt;
+  if (!GetTextMetricsW(Native(context.get()), &metrics)) return std::nullopt;
   return Size{metrics.tmMaxCharWidth, metrics.tmHeight};
 }
 
