@@ -35,8 +35,7 @@ class DefinitionBuilder {
     return place;
   }
   std::int32_t Task(std::int32_t parent, const std::wstring& caption, std::int32_t options) {
-    const std::int32_t place =
-        Captioned(parent, clsOrvaneData::TypeSelectionTask, {}, caption);
+    const std::int32_t place = Captioned(parent, clsOrvaneData::TypeSelectionTask, {}, caption);
     definition.items.back().data.m_lSelection_Options = options;
     return place;
   }
