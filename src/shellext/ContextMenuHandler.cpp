@@ -145,12 +145,12 @@ std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMen
   TraceScope scope(L"IContextMenu_QueryContextMenuEx");
   std::int32_t result = 0;
   try {
-    const std::wstring call = DescribeMenu(hMenu, indexMenu, idCmdFirst, idCmdLast, uFlags);
-    Log(call);
-    const std::int64_t commands = std::int64_t{idCmdLast} - idCmdFirst;
-    if (m_globals.g_Options.m_bDebugShowWindowsMenuInfo)
-      Tell(call + L"\r\n\r\nMaximum Number of Commands = " + std::to_wstring(commands),
-           MessageBoxes::Icon::Information);
+    const bool showInfo = m_globals.g_Options.m_bDebugShowWindowsMenuInfo;
+    if (showInfo || ActiveDebugTrace()) {
+      const std::wstring call = DescribeMenu(hMenu, indexMenu, idCmdFirst, idCmdLast, uFlags);
+      Log(call);
+      if (showInfo) TellMenuInfo(call, std::int64_t{idCmdLast} - idCmdFirst);
+    }
     switch (Participation(hMenu, indexMenu, idCmdFirst, idCmdLast)) {
       case Part::None:
         break;
@@ -281,6 +281,11 @@ void ContextMenuHandler::StopReadTimer() noexcept {
   } catch (...) {
     // The tick counter wrapped around in between; there is no time to log.
   }
+}
+
+void ContextMenuHandler::TellMenuInfo(const std::wstring& call, std::int64_t commands) {
+  Tell(call + L"\r\n\r\nMaximum Number of Commands = " + std::to_wstring(commands),
+       MessageBoxes::Icon::Information);
 }
 
 void ContextMenuHandler::Tell(const std::wstring& text, MessageBoxes::Icon icon) {

@@ -73,6 +73,7 @@ class ContextMenuHandler : public MenuItemLookup {
   void InsertRoot(UniqueMenu root, std::int32_t position);
   void ReserveDynamicIds();
   void StopReadTimer() noexcept;
+  void TellMenuInfo(const std::wstring& call, std::int64_t commands);
   void Tell(const std::wstring& text, MessageBoxes::Icon icon);
   clsOrvaneData* Record(std::int32_t lId) const;
   CommandContext Context() const;
