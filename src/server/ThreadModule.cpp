@@ -12,7 +12,10 @@ namespace {
 thread_local constinit ThreadModule* t_module = nullptr;
 }  // namespace
 
-ThreadModule::ThreadModule() : m_desktop(Module::Handle()), m_globals(m_desktop.Bundle()) {
+ThreadModule::ThreadModule()
+    : m_desktop(Module::Handle()),
+      m_dialogs(Module::Handle()),
+      m_globals(m_desktop.Bundle(m_dialogs)) {
   const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_PROGRESS_CLASS};
   InitCommonControlsEx(&controls);
 }

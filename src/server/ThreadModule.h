@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/Desktop.h"
+#include "server/Dialogs.h"
 #include "shellext/ModuleGlobals.h"
 
 namespace orvane::server {
@@ -27,6 +28,7 @@ class ThreadModule {
   ~ThreadModule() = default;
 
   win32::Desktop m_desktop;
+  Dialogs m_dialogs;
   ModuleGlobals m_globals;
   int m_uses = 0;
 };

@@ -31,10 +31,13 @@ struct Desktop {
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
 
-  Platform Bundle() {
+  Platform Bundle() { return Bundle(dialogs); }
+
+  /// With dialogs that have windows.
+  Platform Bundle(orvane::Dialogs& shown) {
     return {.clipboard = clipboard,
             .clock = clock,
-            .dialogs = dialogs,
+            .dialogs = shown,
             .operations = operations,
             .files = files,
             .gdi = gdi,

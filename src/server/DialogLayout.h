@@ -1,0 +1,43 @@
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <vector>
+
+namespace orvane::server {
+
+/// Keeps a dialog's controls in place while it is resized.
+class DialogLayout {
+ public:
+  /// Edges of a control that follow the dialog's right or lower edge; the others stay.
+  static constexpr unsigned Left = 1, Top = 2, Right = 4, Bottom = 8;
+
+  struct Anchor {
+    int control;
+    unsigned edges;
+  };
+
+  /// Takes the present size for the smallest one.
+  void Start(HWND dialog, std::span<const Anchor> anchors);
+
+  /// WM_SIZE.
+  void Arrange() const;
+
+  /// WM_GETMINMAXINFO.
+  void Limit(MINMAXINFO& limits) const;
+
+ private:
+  struct Place {
+    HWND control;
+    RECT rect;
+    unsigned edges;
+  };
+
+  HWND m_dialog = nullptr;
+  SIZE m_client{};  // at the start
+  POINT m_window{};
+  std::vector<Place> m_places;
+};
+
+}  // namespace orvane::server
