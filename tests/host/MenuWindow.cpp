@@ -46,10 +46,10 @@ void MenuWindow::RightClicked(HWND window, POINT at) {
   const HRESULT result = click.handler->QueryContextMenu(click.menu, 1, 1, OwnCommands - 1, 0);
   std::printf("initialized 0x%08lX, identifiers %ld\n",
               static_cast<unsigned long>(click.initialized), static_cast<long>(result));
-  Print(MenuText(click.menu));
   open = click.handler.Get();
   const int chosen = TrackPopupMenu(click.menu, TPM_RETURNCMD, at.x, at.y, 0, window, nullptr);
   open = nullptr;
+  Print(MenuText(click.menu));  // with the dynamic folders that were opened
   std::printf("chosen %d\n", chosen);
   if (chosen > 0 && chosen < static_cast<int>(OwnCommands)) {
     CMINVOKECOMMANDINFO record{};
@@ -66,6 +66,9 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
   auto* self = reinterpret_cast<MenuWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   LRESULT result = 0;
   switch (message) {
+    case WM_ENTERMENULOOP:
+      Print(L"open\n");
+      return 0;
     case WM_INITMENUPOPUP:
     case WM_DRAWITEM:
     case WM_MEASUREITEM:
