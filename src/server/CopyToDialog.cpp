@@ -135,7 +135,8 @@ bool CopyToDialog::PaintBackground(HDC context) const {
   RECT client{};
   GetClientRect(Window(), &client);
   const HGDIOBJ before = SelectObject(source, m_background.get());
-  SetStretchBltMode(context, COLORONCOLOR);
+  SetStretchBltMode(context, HALFTONE);
+  SetBrushOrgEx(context, 0, 0, nullptr);
   StretchBlt(context, 0, 0, client.right, client.bottom, source, 0, 0, shape.bmWidth,
              shape.bmHeight, SRCCOPY);
   SelectObject(source, before);
