@@ -8,13 +8,13 @@ namespace orvane {
 class Locale {
  public:
   enum class Fact {
-    DateSeparator,     // "/"
-    TimeSeparator,     // ":"
-    Morning,           // "AM"
-    Afternoon,         // "PM"
-    MonthName,         // index 1 to 12
+    DateSeparator,  // "/"
+    TimeSeparator,  // ":"
+    Morning,        // "AM"
+    Afternoon,      // "PM"
+    MonthName,      // index 1 to 12
     MonthAbbreviation,
-    DayName,           // index 0 Sunday to 6 Saturday
+    DayName,  // index 0 Sunday to 6 Saturday
     DayAbbreviation,
     ShortDatePattern,  // in Windows' date pictures: "dd/MM/yyyy"
     LongDatePattern,   // "dddd, d MMMM yyyy"

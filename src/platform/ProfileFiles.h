@@ -27,7 +27,8 @@ class ProfileReader {
 class ProfileFiles : public ProfileReader {
  public:
   /// Writes one value; without a value removes the key, without a key the whole section. Creates
-  /// the file when needed. False when the file cannot be written.
+  /// the file when needed. A line end inside a text becomes a blank, so that no text can add lines
+  /// of its own. False when the file cannot be written.
   virtual bool Write(const std::wstring& file, const std::wstring& section,
                      const std::optional<std::wstring>& key,
                      const std::optional<std::wstring>& value) = 0;

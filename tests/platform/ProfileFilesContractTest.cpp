@@ -96,6 +96,9 @@ TYPED_TEST(ProfileFilesContract, WritesAndRemoves) {
   EXPECT_TRUE(this->profiles.Write(this->m_file, L"A", std::nullopt, std::nullopt));
   EXPECT_EQ(this->Text(L"A", L"two"), L"(fallback) ");
   EXPECT_EQ(this->Text(L"B", L"one"), L"b \u00e4");
+  EXPECT_TRUE(this->profiles.Write(this->m_file, L"B", L"one", L"b\r\n[C]\nkey=1"));
+  EXPECT_EQ(this->Text(L"B", L"one"), L"b  [C] key=1");
+  EXPECT_EQ(this->Text(L"C", L"key"), L"(fallback) ");
   EXPECT_FALSE(this->profiles.Write(this->m_backEnd.folder + L"\\no\\x.ini", L"A", L"k", L"v"));
 }
 

@@ -24,6 +24,12 @@ std::optional<std::wstring> Find(const std::wstring& file, const std::wstring& s
   return text.substr(0, maxLength);
 }
 
+std::optional<std::wstring> OnOneLine(std::optional<std::wstring> text) {
+  const auto isLineEnd = [](wchar_t c) { return c == L'\r' || c == L'\n'; };
+  if (text) std::ranges::replace_if(*text, isLineEnd, L' ');
+  return text;
+}
+
 }  // namespace
 
 std::wstring ProfileFiles::Text(const std::wstring& file, const std::wstring& section,
@@ -45,8 +51,10 @@ std::int32_t ProfileFiles::Number(const std::wstring& file, const std::wstring& 
 bool ProfileFiles::Write(const std::wstring& file, const std::wstring& section,
                          const std::optional<std::wstring>& key,
                          const std::optional<std::wstring>& value) {
-  return WritePrivateProfileStringW(section.c_str(), key ? key->c_str() : nullptr,
-                                    key && value ? value->c_str() : nullptr, file.c_str()) != 0;
+  const auto oneSection = OnOneLine(section), oneKey = OnOneLine(key), oneValue = OnOneLine(value);
+  return WritePrivateProfileStringW(oneSection->c_str(), oneKey ? oneKey->c_str() : nullptr,
+                                    oneKey && oneValue ? oneValue->c_str() : nullptr,
+                                    file.c_str()) != 0;
 }
 
 }  // namespace orvane::win32
