@@ -179,7 +179,9 @@ bool Gdi::ExchangeTransparency(DeviceContext context, bool transparent) {
   return SetBkMode(Native(context), transparent ? TRANSPARENT : OPAQUE) == TRANSPARENT;
 }
 
-std::uint32_t Gdi::LastError() { return GetLastError(); }
+std::uint32_t Gdi::LastError() {
+  return GetLastError();
+}
 
 Colour Gdi::SystemColour(std::int32_t index) {
   return GetSysColor(index);
