@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "host/BoxCloser.h"
+#include "host/Com.h"
+#include "host/Definition.h"
+#include "host/Effects.h"
+#include "host/Modes.h"
+#include "menudata/clsOrvaneData.h"
+
+namespace orvane::host {
+namespace {
+
+using Item = clsOrvaneData;
+namespace fs = std::filesystem;
+
+/// The user's menu with entries whose work shows outside this process.
+class Effects : public testing::Test {
+ protected:
+  Effects() {
+    scene.PlainText();
+    scene.Set(L"ShellConfigFile", scene.Path(L"Menu.cfg"));
+    const std::wstring start = L"--write \"" + started + L"\" [orv_selection]";
+    const std::wstring reports = scene.Path(L"Reports");
+    WriteDefinition(
+        scene.Path(L"Menu.cfg"),
+        {{0, Item::TypeRoot, 0, {L"&Zoo"}},
+         {1,
+          Item::TypeSelectionTask,
+          0,
+          {reports, L"&Xstart", HostPath(), start, L"/", L"\\t", L"", L"", L"", L"", L"65"}},
+         {1,
+          Item::TypeSelectionTask,
+          0,
+          {L"", L"List", L"", L"", L"", L"", list, L"<", L">\\n", L"*.txt", L"17"}},
+         {1, Item::TypeCopyToX, 0, {reports, L"Copy there", L"0"}}});
+  }
+
+  /// Right-clicks the files and chooses an entry.
+  void ChooseFor(const std::vector<std::wstring>& names, const wchar_t* caption) {
+    RightClick click(scene.Folder(), Select(scene.Folder(), names).Get());
+    click.Query();
+    EXPECT_TRUE(Choose(click, caption));
+    EXPECT_EQ(closer.boxes, std::vector<std::wstring>());
+  }
+
+  Apartment apartment;
+  Scene scene;
+  BoxCloser closer;
+  const std::wstring started = scene.Path(L"started.out");
+  const std::wstring list = scene.Path(L"list.out");
+};
+
+TEST_F(Effects, SelectionTaskStartsItsProgramInItsFolder) {
+  ChooseFor({L"a.txt", L"\u0416.txt", L"R&D.txt"}, L"&Xstart");
+  EXPECT_EQ(WaitForRecord(started), scene.Path(L"Reports") +
+                                        L"\n/C:\\Orvane Test\\a.txt\n/C:\\Orvane Test\\\u0416.txt\n"
+                                        L"/C:\\Orvane Test\\R&D.txt\n");
+}
+
+TEST_F(Effects, SelectionTaskWritesItsFileAndTheClipboard) {
+  ChooseFor({L"R&D.txt", L"Reports", L"a.txt"}, L"List");
+  EXPECT_EQ(WaitForFile(list), "<C:\\Orvane Test\\R&D.txt>\r\n<C:\\Orvane Test\\a.txt>\r\n");
+  EXPECT_EQ(ClipboardOfAnotherProcess(scene),
+            L"<C:\\Orvane Test\\R&D.txt>\r\n<C:\\Orvane Test\\a.txt>\r\n");
+  ChooseFor({L"b.txt"}, L"List");
+  EXPECT_EQ(WaitForFile(list), "<C:\\Orvane Test\\b.txt>\r\n") << "replaced, not appended to";
+}
+
+TEST_F(Effects, NamesOnTheClipboardAreReadByAnotherProcess) {
+  ChooseFor({L"\u0416.txt", L"Reports"}, L"Copy to Clipboard");
+  EXPECT_EQ(ClipboardOfAnotherProcess(scene),
+            L"C:\\Orvane Test\\\u0416.txt\r\nC:\\Orvane Test\\Reports\r\n");
+}
+
+TEST_F(Effects, FixedDestinationCopies) {
+  ChooseFor({L"a.txt", L"\u0416.txt"}, L"Copy there");
+  for (const wchar_t* name : {L"a.txt", L"\u0416.txt"}) {
+    EXPECT_TRUE(fs::exists(scene.Path(name)));
+    EXPECT_EQ(fs::file_size(fs::path(scene.Path(L"Reports")) / name), 1u);
+  }
+}
+
+TEST_F(Effects, CommandPromptStartsInTheFolder) {
+  wchar_t own[MAX_PATH];
+  GetEnvironmentVariableW(L"comspec", own, MAX_PATH);
+  SetEnvironmentVariableW(L"comspec", HostPath().c_str());
+  SetEnvironmentVariableW(PromptRecord, started.c_str());
+  ChooseFor({L"a.txt"}, L"Command Prompt Here");
+  EXPECT_EQ(WaitForRecord(started), scene.Folder() + L"\n");
+  SetEnvironmentVariableW(PromptRecord, nullptr);
+  SetEnvironmentVariableW(L"comspec", own);
+}
+
+TEST_F(Effects, KeysAloneOpenTheMenuAndChoose) {
+  const HostProcess shell(L"--menu \"" + scene.Folder() + L"\" a.txt");
+  const HWND window = WaitForWindow(L"OrvaneHost");
+  ASSERT_TRUE(WaitFor([&] { return GetForegroundWindow() == window; }));
+  PressTogether({VK_SHIFT, VK_F10});
+  ASSERT_NE(WaitForWindow(L"#32768"), nullptr) << "no menu";
+  PressTogether({'Z'});
+  PressTogether({'X'});
+  EXPECT_EQ(WaitForRecord(started), scene.Path(L"Reports") + L"\n/C:\\Orvane Test\\a.txt\n");
+  EXPECT_TRUE(WaitFor([&] { return shell.HasEnded(); }));
+}
+
+}  // namespace
+}  // namespace orvane::host
