@@ -17,7 +17,9 @@ inline std::string Printable(const std::wstring& text) {
     if (character >= 32 && character < 127)
       printable += static_cast<char>(character);
     else
-      printable += "<" + std::to_string(static_cast<std::uint32_t>(character)) + ">";
+      printable.append("<")
+          .append(std::to_string(static_cast<std::uint32_t>(character)))
+          .append(">");
   }
   return printable;
 }
@@ -29,7 +31,7 @@ inline std::string ValueText(const memory::Effect::Value& value) {
     std::string operator()(bool flag) const { return flag ? "true" : "false"; }
     std::string operator()(const std::vector<std::wstring>& names) const {
       std::string list;
-      for (const auto& name : names) list += (list.empty() ? "" : "|") + Printable(name);
+      for (const auto& name : names) list.append(list.empty() ? "" : "|").append(Printable(name));
       return list;
     }
   };
@@ -43,7 +45,7 @@ inline std::vector<std::string> EffectLines(const memory::Effects& effects) {
     std::string line = effect.call;
     for (const auto& [name, value] : effect.fields) {
       const std::string text = ValueText(value);
-      if (!text.empty()) line += " " + name + "=" + text;
+      if (!text.empty()) line.append(" ").append(name).append("=").append(text);
     }
     lines.push_back(line);
   }
