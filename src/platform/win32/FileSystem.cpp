@@ -123,6 +123,21 @@ std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path) {
   return attributes;
 }
 
+/// Asking a drive for its kind takes as long as listing a folder, or, under Wine, a hundred files.
+bool FileSystem::LiesOnNetwork(const std::wstring& folder) {
+  constexpr std::uint64_t Lifetime = 2000;
+  const std::size_t colon = folder.find(L':');
+  if (colon == std::wstring::npos) return IsOnNetwork(folder);
+  const std::wstring_view drive = std::wstring_view(folder).substr(0, colon + 1);
+  const std::uint64_t now = GetTickCount64();
+  if (drive != m_drive || now - m_driveAsked > Lifetime) {
+    m_driveIsRemote = IsOnNetwork(folder);
+    m_drive = drive;
+    m_driveAsked = now;
+  }
+  return m_driveIsRemote;
+}
+
 std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
                                                    std::uint32_t patience) {
   if (folder.empty()) return m_lastError = ERROR_PATH_NOT_FOUND, nullptr;
@@ -130,9 +145,9 @@ std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
   const std::wstring pattern = NativePath(folder + (ended ? L"*" : L"\\*"));
   Walk late;
   late.error = ERROR_SEM_TIMEOUT;
-  Walk walk = IsOnNetwork(folder) ? AskWithPatience([pattern] { return StartWalk(pattern); },
-                                                    patience, std::move(late))
-                                  : StartWalk(pattern);
+  Walk walk = LiesOnNetwork(folder) ? AskWithPatience([pattern] { return StartWalk(pattern); },
+                                                      patience, std::move(late))
+                                    : StartWalk(pattern);
   // An empty root folder has not even the two dots to find.
   if (!walk.handle && walk.error != ERROR_FILE_NOT_FOUND) return m_lastError = walk.error, nullptr;
   return std::make_unique<Listing>(std::move(walk));

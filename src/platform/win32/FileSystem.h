@@ -5,7 +5,8 @@
 namespace orvane::win32 {
 
 /// Files of the machine and its network. A folder counts as one on a network by its path or its
-/// drive's kind; a link on a local drive that leads to a network is taken for local.
+/// drive's kind, which is remembered for two seconds; a link on a local drive that leads to a
+/// network is taken for local.
 class FileSystem : public orvane::FileSystem {
  public:
   std::optional<std::vector<std::byte>> Read(const std::wstring& path,
@@ -23,8 +24,12 @@ class FileSystem : public orvane::FileSystem {
 
  private:
   bool Check(bool success);
+  bool LiesOnNetwork(const std::wstring& folder);
 
   std::uint32_t m_lastError = 0;
+  std::wstring m_drive;  // the last one that was asked for its kind
+  bool m_driveIsRemote = false;
+  std::uint64_t m_driveAsked = 0;  // milliseconds since the system's start
 };
 
 }  // namespace orvane::win32
