@@ -97,11 +97,18 @@ TEST_F(Effects, KeysAloneOpenTheMenuAndChoose) {
   const HostProcess shell(L"--menu \"" + scene.Folder() + L"\" a.txt");
   const HWND window = WaitForWindow(L"OrvaneHost");
   ASSERT_TRUE(WaitFor([&] { return GetForegroundWindow() == window; }));
-  PressTogether({VK_SHIFT, VK_F10});
-  ASSERT_NE(WaitForWindow(L"#32768"), nullptr) << "no menu";
-  PressTogether({'Z'});
-  PressTogether({'X'});
-  EXPECT_EQ(WaitForRecord(started), scene.Path(L"Reports") + L"\n/C:\\Orvane Test\\a.txt\n");
+  // Real keys go to whoever has the focus at that moment; what is lost to another window is pressed
+  // again.
+  std::wstring record;
+  for (int attempt = 0; attempt < 3 && record.empty(); ++attempt) {
+    for (int i = 0; attempt > 0 && i < 3; ++i) PressTogether({VK_ESCAPE});
+    PressTogether({VK_SHIFT, VK_F10});
+    ASSERT_NE(WaitForWindow(L"#32768"), nullptr) << "no menu";
+    PressTogether({'Z'});
+    PressTogether({'X'});
+    record = WaitForRecord(started);
+  }
+  EXPECT_EQ(record, scene.Path(L"Reports") + L"\n/C:\\Orvane Test\\a.txt\n");
   EXPECT_TRUE(WaitFor([&] { return shell.HasEnded(); }));
 }
 
