@@ -47,8 +47,13 @@ bool WaitFor(const std::function<bool()>& condition) {
 }
 
 std::string WaitForFile(const std::wstring& path) {
-  if (!WaitFor([&] { return std::filesystem::exists(path); })) return {};
-  std::ifstream file(std::filesystem::path(path), std::ios::binary);
+  // It is there, under its own name, a moment before whoever put it there lets go of it.
+  std::ifstream file;
+  const auto opens = [&] {
+    file.open(std::filesystem::path(path), std::ios::binary);
+    return file.is_open();
+  };
+  if (!WaitFor(opens)) return {};
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
