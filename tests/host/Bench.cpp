@@ -1,119 +1,23 @@
-#include <algorithm>
 #include <cstdio>
-#include <functional>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <vector>
 
+#include "host/BareCalls.h"
 #include "host/Com.h"
 #include "host/Definition.h"
 #include "host/Library.h"
+#include "host/Measure.h"
 #include "host/Modes.h"
 #include "host/Scene.h"
+#include "menudata/clsOrvaneData.h"
 
 namespace orvane::host {
 namespace {
 
-constexpr wchar_t Settings[] = L"Software\\Tarnwick\\Orvane\\";
-
-// The values that every new handler reads.
-constexpr const wchar_t* SettingNames[] = {L"ShellEnable",
-                                           L"ShellShowInIE",
-                                           L"ShellShowIcons",
-                                           L"ShellUseOwnFolderBitmap",
-                                           L"ShellShowHistoryMRU",
-                                           L"ShelllMaxHistoryMRU",
-                                           L"ShellShowQuickAccessMRU",
-                                           L"ShellShowFlags",
-                                           L"ShellConfigFile",
-                                           L"ShellCustomActionsFile",
-                                           L"ShellMaxMenuText",
-                                           L"ShellIgnoreBoundsCheck",
-                                           L"ShellOwnerDraw",
-                                           L"DebugFlags",
-                                           L"DebugEnable",
-                                           L"DebugOutput",
-                                           L"DebugShowWindowsMenuInfo",
-                                           L"DebugEnableInMenu",
-                                           L"TimingEnable",
-                                           L"TimingOutput",
-                                           L"GeneralShowBackground",
-                                           L"GeneralAllowMultipleInstances",
-                                           L"GeneralSaveWindowPos"};
-
-constexpr wchar_t ListCount[] = L"MruFileCount";
-
-void Read(HKEY key, const wchar_t* name) {
-  BYTE data[1024];
-  DWORD size = sizeof data;
-  RegQueryValueExW(key, name, nullptr, nullptr, data, &size);
-}
-
-void ReadSettings() {
-  HKEY key = nullptr;
-  RegOpenKeyExW(HKEY_CURRENT_USER, Settings, 0, KEY_QUERY_VALUE, &key);
-  for (const wchar_t* name : SettingNames) Read(key, name);
-  RegCloseKey(key);
-}
-
-void ReadList(const wchar_t* path) {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) return;
-  Read(key, ListCount);
-  RegCloseKey(key);
-}
-
-void SaveList(const wchar_t* path) {
-  HKEY key = nullptr;
-  const DWORD count = 0;
-  RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_SET_VALUE | KEY_CREATE_SUB_KEY,
-                  nullptr, &key, nullptr);
-  RegSetValueExW(key, ListCount, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&count), sizeof count);
-  RegCloseKey(key);
-}
-
-void ReadFileWhole(const std::wstring& path) {
-  const HANDLE file =
-      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-  std::vector<char> bytes(GetFileSize(file, nullptr));
-  DWORD read = 0;
-  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-  CloseHandle(file);
-}
-
-void Insert(HMENU menu, UINT id, const wchar_t* caption, HMENU submenu = nullptr) {
-  MENUITEMINFOW info{};
-  info.cbSize = sizeof info;
-  info.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_STRING | MIIM_FTYPE;
-  info.wID = id;
-  info.hSubMenu = submenu;
-  info.dwTypeData = const_cast<wchar_t*>(caption);
-  InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
-}
-
-/// A right-click's platform calls with nothing around them.
-void BareCalls(const std::wstring& config, PCIDLIST_ABSOLUTE folder, int items) {
-  constexpr const wchar_t* history = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
-  constexpr const wchar_t* quickAccess =
-      L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
-  ReadSettings();
-  ReadList(history);
-  ReadList(quickAccess);
-  ReadList(L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\");
-  wchar_t path[MAX_PATH];
-  SHGetPathFromIDListW(folder, path);
-  GetFileAttributesW(config.c_str());
-  ReadFileWhole(config);
-  const HMENU menu = CreatePopupMenu();
-  const HMENU root = CreatePopupMenu();
-  InsertMenuW(menu, 0, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
-  for (int i = 0; i < items; ++i) Insert(root, static_cast<UINT>(i + 1), L"Document 1000");
-  AppendMenuW(root, MF_SEPARATOR, 0, nullptr);
-  Insert(root, static_cast<UINT>(items + 1), L"&Designer...");
-  Insert(menu, 0, L"Orvane", root);
-  InsertMenuW(menu, 2, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
-  SaveList(history);
-  SaveList(quickAccess);
-  DestroyMenu(menu);
-}
+constexpr const wchar_t* Kinds[] = {L".txt", L".doc", L".pdf", L".jpg", L".zip",
+                                    L".htm", L".xml", L".wav", L".log", L".csv"};
 
 void RightClickOnce(IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
   const HMENU menu = CreatePopupMenu();
@@ -127,32 +31,83 @@ void RightClickOnce(IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
   DestroyMenu(menu);
 }
 
-double Milliseconds(const std::function<void()>& work) {
-  LARGE_INTEGER frequency, start, end;
-  QueryPerformanceFrequency(&frequency);
-  QueryPerformanceCounter(&start);
-  work();
-  QueryPerformanceCounter(&end);
-  return 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
-         static_cast<double>(frequency.QuadPart);
+void PrintHeader(const char* what) {
+  std::printf("%-24s entries  calls alone       orvane    ratio   (medians, milliseconds)\n", what);
 }
 
-double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
+void PrintRow(std::size_t entries, const std::vector<double>& bare,
+              const std::vector<double>& whole) {
+  std::printf("%32zu %12.3f %12.3f %8.2f\n", entries, Median(bare), Median(whole),
+              Median(whole) / Median(bare));
 }
 
-void Compare(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder, int items) {
-  const std::wstring config = scene.Path(L"Menu.cfg");
-  WriteFileItems(config, items);
+void CompareRightClick(IClassFactory* factory, const BareRightClick& bareCalls) {
   std::vector<double> bare, whole;
   for (int run = 0; run < 60; ++run) {
-    bare.push_back(Milliseconds([&] { BareCalls(config, folder, items); }));
-    whole.push_back(Milliseconds([&] { RightClickOnce(factory, folder); }));
+    bare.push_back(Milliseconds(bareCalls));
+    whole.push_back(Milliseconds([&] { RightClickOnce(factory, bareCalls.folder); }));
   }
-  std::printf("%8d %12.3f %14.3f %8.2f\n", items, Median(bare), Median(whole),
-              Median(whole) / Median(bare));
+  PrintRow(bareCalls.files.size(), bare, whole);
+}
+
+void BenchText(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
+  PrintHeader("right-click, text");
+  const std::wstring config = scene.Path(L"Menu.cfg");
+  for (const int items : {100, 1000, 5000}) {
+    WriteFileItems(config, items);
+    CompareRightClick(
+        factory, {config, folder, std::vector<std::wstring>(static_cast<std::size_t>(items)), {}});
+  }
+}
+
+void BenchIcons(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
+  PrintHeader("right-click, icon level 3");
+  scene.Set(L"ShellShowIcons", 3);
+  BareRightClick bare{scene.Path(L"Menu.cfg"), folder, {}, {std::begin(Kinds), std::end(Kinds)}};
+  std::vector<DefinitionItem> items = {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}}};
+  for (std::size_t i = 0; i < 50; ++i) {
+    const std::wstring name = L"Icon " + std::to_wstring(i) + Kinds[i % std::size(Kinds)];
+    bare.files.push_back(scene.Path(name.c_str()));
+    std::ofstream(std::filesystem::path(bare.files.back())) << "x";
+    items.push_back({1, clsOrvaneData::TypeFile, 0, {bare.files.back(), name}});
+  }
+  WriteDefinition(bare.config, items);
+  CompareRightClick(factory, bare);
+}
+
+void BenchFolder(Scene& scene, std::size_t files) {
+  const std::filesystem::path folder = scene.Path(L"Many");
+  std::filesystem::create_directory(folder);
+  for (std::size_t i = 0; i < files; ++i)
+    std::ofstream(folder / (L"File " + std::to_wstring(i) + Kinds[i % std::size(Kinds)]));
+  std::vector<double> bare, whole;
+  for (int run = 0; run < 15; ++run) {
+    const HMENU menu = CreatePopupMenu();
+    bare.push_back(Milliseconds([&] { BareFolder(folder.wstring(), menu); }));
+    DestroyMenu(menu);
+    RightClick click(scene.Folder(), nullptr);
+    click.Query();
+    const HMENU submenu = GetSubMenu(GetSubMenu(click.menu, 1), 0);
+    LRESULT result = 0;
+    whole.push_back(Milliseconds([&] {
+      click.handler->HandleMenuMsg2(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(submenu), 0,
+                                    &result);
+    }));
+    if (static_cast<std::size_t>(GetMenuItemCount(submenu)) != files) std::puts("not all listed");
+  }
+  PrintRow(files, bare, whole);
+  std::filesystem::remove_all(folder);
+}
+
+void BenchFolders(Scene& scene) {
+  PrintHeader("dynamic folder, opened");
+  scene.Set(L"ShellShowIcons", 3);
+  scene.Set(L"ShellOwnerDraw", 1);
+  WriteDefinition(
+      scene.Path(L"Menu.cfg"),
+      {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}},
+       {1, clsOrvaneData::TypeDynamicFolder, 0, {scene.Path(L"Many"), L"Many", L"", L"0"}}});
+  for (const std::size_t files : {100, 1000, 5000, 20000}) BenchFolder(scene, files);
 }
 
 }  // namespace
@@ -173,8 +128,9 @@ int RunBench() {
     return 1;
   }
   const UniquePidl folder = ParsePath(scene.Folder());
-  std::puts("   items  calls alone    right-click    ratio   (medians, milliseconds)");
-  for (const int items : {100, 1000, 5000}) Compare(scene, factory.Get(), folder.get(), items);
+  BenchText(scene, factory.Get(), folder.get());
+  BenchIcons(scene, factory.Get(), folder.get());
+  BenchFolders(scene);
   return 0;
 }
 

@@ -8,6 +8,7 @@
 #include "host/LeakCount.h"
 #include "host/Library.h"
 #include "host/Scene.h"
+#include "menudata/clsOrvaneData.h"
 
 namespace orvane::host {
 namespace {
@@ -42,6 +43,56 @@ TEST_F(Endurance, TwoHundredRightClicksHoldNothing) {
   EXPECT_EQ(after.userHandles, before.userHandles);
   EXPECT_EQ(after.heapBlocks, before.heapBlocks);
   EXPECT_EQ(failures, 0);
+}
+
+/// Opens the click's one dynamic folder and paints every entry of it.
+void OpenAndPaint(RightClick& click, HDC context) {
+  LRESULT result = 0;
+  const HMENU submenu = GetSubMenu(GetSubMenu(click.menu, 1), 0);
+  click.handler->HandleMenuMsg2(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(submenu), 0, &result);
+  const int count = GetMenuItemCount(submenu);
+  ASSERT_EQ(count, 5);
+  for (int i = 0; i < count; ++i) {
+    MEASUREITEMSTRUCT measure{};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = GetMenuItemID(submenu, i);
+    if (measure.itemID == UINT(-1)) continue;  // the folder
+    click.handler->HandleMenuMsg2(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure), &result);
+    EXPECT_GT(measure.itemWidth, 25u);
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_MENU;
+    draw.itemID = measure.itemID;
+    draw.hDC = context;
+    draw.rcItem = {0, 0, 200, 20};
+    click.handler->HandleMenuMsg2(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw), &result);
+  }
+}
+
+TEST_F(Endurance, AThousandDynamicFoldersOpenedAndPainted) {
+  const Apartment apartment;
+  scene.Set(L"ShellShowIcons", 3);
+  WriteDefinition(
+      scene.Path(L"Menu.cfg"),
+      {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}},
+       {1, clsOrvaneData::TypeDynamicFolder, 0, {scene.Folder(), L"Test", L"*.txt", L"0"}}});
+  const Library library;
+  const HDC context = CreateCompatibleDC(nullptr);
+  const HBITMAP surface = CreateBitmap(200, 20, 1, 32, nullptr);
+  SelectObject(context, surface);
+  const auto clickOnce = [&] {
+    RightClick click(scene.Folder(), nullptr);
+    click.Query();
+    OpenAndPaint(click, context);
+  };
+  for (int i = 0; i < 3; ++i) clickOnce();
+  const LeakCount before = LeakCount::Now();
+  for (int i = 0; i < 1000; ++i) clickOnce();
+  const LeakCount after = LeakCount::Now();
+  EXPECT_EQ(after.gdiObjects, before.gdiObjects);
+  EXPECT_EQ(after.userHandles, before.userHandles);
+  EXPECT_EQ(after.heapBlocks, before.heapBlocks);
+  DeleteDC(context);
+  DeleteObject(surface);
 }
 
 TEST_F(Endurance, TwoThreadsOfTwoThousandHandlersEach) {

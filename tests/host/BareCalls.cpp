@@ -1,0 +1,204 @@
+#include "host/BareCalls.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <shellapi.h>
+
+#include <map>
+
+namespace orvane::host {
+namespace {
+
+constexpr wchar_t Settings[] = L"Software\\Tarnwick\\Orvane\\";
+
+// The values that every new handler reads.
+constexpr const wchar_t* SettingNames[] = {L"ShellEnable",
+                                           L"ShellShowInIE",
+                                           L"ShellShowIcons",
+                                           L"ShellUseOwnFolderBitmap",
+                                           L"ShellShowHistoryMRU",
+                                           L"ShelllMaxHistoryMRU",
+                                           L"ShellShowQuickAccessMRU",
+                                           L"ShellShowFlags",
+                                           L"ShellConfigFile",
+                                           L"ShellCustomActionsFile",
+                                           L"ShellMaxMenuText",
+                                           L"ShellIgnoreBoundsCheck",
+                                           L"ShellOwnerDraw",
+                                           L"DebugFlags",
+                                           L"DebugEnable",
+                                           L"DebugOutput",
+                                           L"DebugShowWindowsMenuInfo",
+                                           L"DebugEnableInMenu",
+                                           L"TimingEnable",
+                                           L"TimingOutput",
+                                           L"GeneralShowBackground",
+                                           L"GeneralAllowMultipleInstances",
+                                           L"GeneralSaveWindowPos"};
+
+constexpr wchar_t ListCount[] = L"MruFileCount";
+
+void Read(HKEY key, const wchar_t* name) {
+  BYTE data[1024];
+  DWORD size = sizeof data;
+  RegQueryValueExW(key, name, nullptr, nullptr, data, &size);
+}
+
+void ReadSettings() {
+  HKEY key = nullptr;
+  RegOpenKeyExW(HKEY_CURRENT_USER, Settings, 0, KEY_QUERY_VALUE, &key);
+  for (const wchar_t* name : SettingNames) Read(key, name);
+  RegCloseKey(key);
+}
+
+void ReadList(const wchar_t* path) {
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) return;
+  Read(key, ListCount);
+  RegCloseKey(key);
+}
+
+void SaveList(const wchar_t* path) {
+  HKEY key = nullptr;
+  const DWORD count = 0;
+  RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_SET_VALUE | KEY_CREATE_SUB_KEY,
+                  nullptr, &key, nullptr);
+  RegSetValueExW(key, ListCount, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&count), sizeof count);
+  RegCloseKey(key);
+}
+
+void ReadFileWhole(const std::wstring& path) {
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  std::vector<char> bytes(GetFileSize(file, nullptr));
+  DWORD read = 0;
+  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+  CloseHandle(file);
+}
+
+void Insert(HMENU menu, UINT id, const wchar_t* caption, UINT type = MFT_STRING,
+            HMENU submenu = nullptr, HBITMAP picture = nullptr) {
+  MENUITEMINFOW info{};
+  info.cbSize = sizeof info;
+  info.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_STRING | MIIM_FTYPE;
+  if (picture) info.fMask |= MIIM_CHECKMARKS;
+  info.fType = type;
+  info.wID = id;
+  info.hSubMenu = submenu;
+  info.hbmpChecked = info.hbmpUnchecked = picture;
+  info.dwTypeData = const_cast<wchar_t*>(caption);
+  InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+}
+
+/// The pictures of one menu, gone with the object.
+class Pictures {
+ public:
+  Pictures() : m_from(CreateCompatibleDC(nullptr)), m_to(CreateCompatibleDC(nullptr)) {}
+  ~Pictures() {
+    for (const HBITMAP bitmap : m_bitmaps) DeleteObject(bitmap);
+    DeleteDC(m_from);
+    DeleteDC(m_to);
+  }
+  Pictures(const Pictures&) = delete;
+  Pictures& operator=(const Pictures&) = delete;
+
+  /// A menu bitmap in the menu's colour and once more at the size of a check mark.
+  void Load(int resource) {
+    COLORMAP map{RGB(255, 0, 255), GetSysColor(COLOR_MENU)};
+    const HBITMAP normal =
+        CreateMappedBitmap(GetModuleHandleW(L"orvane.dll"), resource, 0, &map, 1);
+    const HBITMAP scaled = Blank(16);
+    const HGDIOBJ from = SelectObject(m_from, normal);
+    const HGDIOBJ to = SelectObject(m_to, scaled);
+    StretchBlt(m_to, 0, 0, 16, 16, m_from, 0, 0, 16, 16, SRCCOPY);
+    SelectObject(m_from, from);
+    SelectObject(m_to, to);
+    m_bitmaps.push_back(normal);
+    m_bitmaps.push_back(scaled);
+  }
+
+  /// The icon that files of the kind share, as two bitmaps like those above; several kinds may
+  /// share it again.
+  HBITMAP Fetch(const std::wstring& extension) {
+    SHFILEINFOW info{};
+    const auto list = reinterpret_cast<HIMAGELIST>(
+        SHGetFileInfoW((L"file" + extension).c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
+                       SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES));
+    HBITMAP& picture = m_icons[info.iIcon];
+    if (picture) return picture;
+    const HICON icon = ImageList_GetIcon(list, info.iIcon, ILD_NORMAL);
+    for (const int size : {16, 14}) {
+      m_bitmaps.push_back(Blank(16));
+      const HGDIOBJ to = SelectObject(m_to, m_bitmaps.back());
+      const RECT area{0, 0, size, size};
+      FillRect(m_to, &area, GetSysColorBrush(COLOR_MENU));
+      DrawIconEx(m_to, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+      SelectObject(m_to, to);
+    }
+    DestroyIcon(icon);
+    return picture = m_bitmaps.back();
+  }
+
+ private:
+  HBITMAP Blank(int size) const {
+    const HDC screen = GetDC(nullptr);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, size, size);
+    ReleaseDC(nullptr, screen);
+    return bitmap;
+  }
+
+  HDC m_from;
+  HDC m_to;
+  std::vector<HBITMAP> m_bitmaps;
+  std::map<int, HBITMAP> m_icons;  // by their place in the system's list
+};
+
+}  // namespace
+
+void BareRightClick::operator()() const {
+  constexpr const wchar_t* history = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
+  constexpr const wchar_t* quickAccess =
+      L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
+  ReadSettings();
+  ReadList(history);
+  ReadList(quickAccess);
+  ReadList(L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\");
+  wchar_t path[MAX_PATH];
+  SHGetPathFromIDListW(folder, path);
+  GetFileAttributesW(config.c_str());
+  ReadFileWhole(config);
+  Pictures pictures;
+  std::vector<HBITMAP> icons;
+  if (!kinds.empty()) {
+    for (int resource = 101; resource <= 109; ++resource) pictures.Load(resource);
+    for (const std::wstring& kind : kinds) icons.push_back(pictures.Fetch(kind));
+  }
+  const HMENU menu = CreatePopupMenu();
+  const HMENU root = CreatePopupMenu();
+  InsertMenuW(menu, 0, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (!icons.empty()) GetFileAttributesW(files[i].c_str());
+    Insert(root, static_cast<UINT>(i + 1), L"Document 1000", MFT_STRING, nullptr,
+           icons.empty() ? nullptr : icons[i % icons.size()]);
+  }
+  AppendMenuW(root, MF_SEPARATOR, 0, nullptr);
+  Insert(root, static_cast<UINT>(files.size() + 1), L"&Designer...");
+  Insert(menu, 0, L"Orvane", MFT_STRING, root);
+  InsertMenuW(menu, 2, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+  SaveList(history);
+  SaveList(quickAccess);
+  DestroyMenu(menu);
+}
+
+void BareFolder(const std::wstring& folder, HMENU menu) {
+  WIN32_FIND_DATAW found;
+  const HANDLE walk = FindFirstFileExW((folder + L"\\*").c_str(), FindExInfoBasic, &found,
+                                       FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  UINT id = 1;
+  do Insert(menu, id++, found.cFileName, MFT_OWNERDRAW);
+  while (FindNextFileW(walk, &found));
+  FindClose(walk);
+}
+
+}  // namespace orvane::host
