@@ -34,7 +34,6 @@ class Bench : private MenuItemLookup {
                                  .caption = records[i].Caption(),
                                  .id = static_cast<std::int32_t>(i),
                                  .bitmapKey = bitmapKey,
-                                 .iconFile = records[i].Location(),
                                  .fileName = true,
                                  .record = &records[i]});
     }

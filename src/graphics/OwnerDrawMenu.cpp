@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 #include "menudata/clsOrvaneDataTools.h"
 #include "support/Trace.h"
@@ -40,11 +41,16 @@ std::wstring DoubleAmpersands(const std::wstring& name) {
   return doubled;
 }
 
+std::wstring IconFile(const NewMenuItem& item) {
+  if (item.iconFile) return *item.iconFile;
+  return item.record ? std::wstring(item.record->Location()) : std::wstring();
+}
+
 /// Stands in a record for a picture that nobody has seen yet.
 clsCollection::Node PictureToFetch(const NewMenuItem& item) {
   auto node = std::make_shared<clsCollection>();
   node->m_lKey = OwnerDrawMenu::OwnIcon;
-  node->m_szFilename = item.iconFile;
+  node->m_szFilename = IconFile(item);
   node->m_lData3 = item.fileName;
   return node;
 }
@@ -74,7 +80,7 @@ void OwnerDrawMenu::ShellMenu(MenuHandle menu) {
   m_painter.MenuOpens();
 }
 
-bool OwnerDrawMenu::AddMenuWithBitmap(const NewMenuItem& item) {
+bool OwnerDrawMenu::AddMenuWithBitmap(NewMenuItem item) {
   TraceScope scope(L"AddMenuWithBitmap");
   try {
     return Insert(item);
@@ -84,14 +90,15 @@ bool OwnerDrawMenu::AddMenuWithBitmap(const NewMenuItem& item) {
   }
 }
 
-bool OwnerDrawMenu::Insert(const NewMenuItem& item) {
+bool OwnerDrawMenu::Insert(NewMenuItem& item) {
   Log(L"lMenuCmdId=", item.id, L"  lBitmapKey=", item.bitmapKey, L"  szCaption=", item.caption);
   MenuEntry entry;
   entry.id = static_cast<std::uint32_t>(item.id);
   entry.submenu = item.submenu;
-  entry.caption = item.trimCaption
-                      ? clsOrvaneDataTools::TrimCaption(item.caption, m_options.m_lShellMaxMenuText)
-                      : item.caption;
+  entry.caption = std::move(item.caption);
+  if (item.trimCaption)
+    entry.caption =
+        clsOrvaneDataTools::TrimCaption(std::move(entry.caption), m_options.m_lShellMaxMenuText);
   if (item.fileName && entry.caption.find(L'&') != std::wstring::npos) {
     entry.caption = DoubleAmpersands(entry.caption);
     m_fileNames.insert(item.id);
@@ -113,7 +120,7 @@ void OwnerDrawMenu::AddPicture(const NewMenuItem& item, std::int32_t key, MenuEn
     return;
   }
   const clsCollection::Node node =
-      key == OwnIcon ? m_icons.Find({item.iconFile, IsFolder(item.record), item.fileName},
+      key == OwnIcon ? m_icons.Find({IconFile(item), IsFolder(item.record), item.fileName},
                                     m_painter.PictureSize())
                      : m_bitmaps.ItemViaKey(key);
   if (!node) {

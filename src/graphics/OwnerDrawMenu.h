@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_set>
 
@@ -24,7 +25,7 @@ struct NewMenuItem {
   std::wstring caption;
   std::int32_t id = 0;
   std::int32_t bitmapKey = 0;  // 1 to 9, OwnIcon, DesignerIcon; anything else is no picture
-  std::wstring iconFile = {};  // whose icon OwnIcon means
+  std::optional<std::wstring> iconFile = {};  // whose icon OwnIcon means, else the record's place
   bool trimCaption = false;
   bool fileName = false;  // the caption is the name of a file or folder that is there, and marks no
                           // letter with "&"
@@ -47,7 +48,7 @@ class OwnerDrawMenu {
   void ShellMenu(MenuHandle menu);
 
   /// False when the desktop refused the entry.
-  bool AddMenuWithBitmap(const NewMenuItem& item);
+  bool AddMenuWithBitmap(NewMenuItem item);
 
   /// The picture to paint beside the record's entry, None without one. A file's icon is fetched
   /// here the first time: of a long menu only what is on the screen is ever painted.
@@ -58,7 +59,7 @@ class OwnerDrawMenu {
   bool HandleMessage(std::uint32_t message, std::intptr_t wParam, std::intptr_t lParam);
 
  private:
-  bool Insert(const NewMenuItem& item);
+  bool Insert(NewMenuItem& item);
   void AddPicture(const NewMenuItem& item, std::int32_t key, MenuEntry& entry);
   void Measure(MeasureItem& item);
   void Draw(const DrawItem& item);

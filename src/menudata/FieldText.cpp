@@ -5,11 +5,15 @@
 
 namespace orvane {
 
+FieldText::Block* FieldText::NewBlock(std::size_t length) {
+  if (length == 0) return nullptr;
+  void* memory = ::operator new(sizeof(Block) + length * sizeof(wchar_t));
+  return new (memory) Block{length};
+}
+
 FieldText::Block* FieldText::MakeBlock(std::wstring_view text) {
-  if (text.empty()) return nullptr;
-  void* memory = ::operator new(sizeof(Block) + text.size() * sizeof(wchar_t));
-  Block* block = new (memory) Block{text.size()};
-  std::ranges::copy(text, Characters(block));
+  Block* block = NewBlock(text.size());
+  if (block) std::ranges::copy(text, Characters(block));
   return block;
 }
 

@@ -19,6 +19,11 @@ class FieldText {
   template <class Source>
   requires std::convertible_to<const Source&, std::wstring_view> FieldText(const Source& source)
       : m_block(MakeBlock(source)) {}
+  /// A text of that length, whose characters `write` puts at the place it is handed.
+  template <std::invocable<wchar_t*> Write>
+  FieldText(std::size_t length, Write write) : m_block(NewBlock(length)) {
+    if (m_block) write(Characters(m_block));
+  }
   FieldText(const FieldText& other) : m_block(MakeBlock(other)) {}
   FieldText(FieldText&& other) noexcept : m_block(std::exchange(other.m_block, nullptr)) {}
   FieldText& operator=(FieldText other) noexcept {
@@ -55,6 +60,7 @@ class FieldText {
   };
 
   static wchar_t* Characters(Block* block) { return reinterpret_cast<wchar_t*>(block + 1); }
+  static Block* NewBlock(std::size_t length);  // null for 0
   static Block* MakeBlock(std::wstring_view text);
 
   Block* m_block = nullptr;

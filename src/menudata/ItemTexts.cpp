@@ -1,6 +1,7 @@
 // The texts that clsOrvaneDataTools makes of an item for menus, status bar and designer.
 
 #include <span>
+#include <utility>
 
 #include "menudata/ShellPaths.h"
 #include "menudata/clsOrvaneDataTools.h"
@@ -145,10 +146,10 @@ std::wstring Describe(const Help& help, const Data& item, Shell& shell,
 std::wstring clsOrvaneDataTools::GetMenuCaption(const clsOrvaneData& item, bool& trim) const {
   if (HasCaptionOfTheUser(item)) trim = true;
   std::wstring caption = FullCaption(item);
-  return trim ? TrimCaption(caption, m_options.m_lShellMaxMenuText) : caption;
+  return trim ? TrimCaption(std::move(caption), m_options.m_lShellMaxMenuText) : caption;
 }
 
-std::wstring clsOrvaneDataTools::TrimCaption(const std::wstring& caption, std::int32_t maximum) {
+std::wstring clsOrvaneDataTools::TrimCaption(std::wstring caption, std::int32_t maximum) {
   std::size_t prefix = 0;
   if (caption.starts_with(L'&')) prefix = caption.find(L' ') + 1;  // 0 without a blank
   const std::wstring_view rest = std::wstring_view(caption).substr(prefix);

@@ -57,6 +57,13 @@ std::wstring clsOrvaneDataTools::File_ReadString(DefinitionFile& file) const {
   return file.Page().Decode(bytes);
 }
 
+// Without a text in between: a large menu has thousands of them.
+FieldText clsOrvaneDataTools::ReadField(DefinitionFile& file) const {
+  const std::span<std::byte> bytes = file.Next();
+  m_debug.EncryptBytes(bytes);
+  return {bytes.size(), [&](wchar_t* characters) { file.Page().Decode(bytes, characters); }};
+}
+
 std::int32_t clsOrvaneDataTools::File_ReadVersion(DefinitionFile& file) const {
   const std::int32_t version = ParseNumber(File_ReadString(file));
   Log(L"File_ReadVersion: ", version);
@@ -96,7 +103,7 @@ void clsOrvaneDataTools::ReadData(DefinitionFile& file, clsOrvaneData& item) con
     if constexpr (std::same_as<decltype(member), std::int32_t clsOrvaneData::*>)
       item.*member = ParseNumber(File_ReadString(file));
     else
-      item.*member = File_ReadString(file);
+      item.*member = ReadField(file);
   };
   for (const DataValue& value : DataValuesOf(item.m_lType)) std::visit(read, value.field);
 }

@@ -34,6 +34,8 @@ class clsOrvaneDataTools {
   bool File_ReadItemHeader(DefinitionFile& file, std::int32_t& parentIndex,
                            clsOrvaneData& item) const;
   std::wstring File_ReadString(DefinitionFile& file) const;
+  /// The same as a record's field.
+  FieldText ReadField(DefinitionFile& file) const;
   /// The values that belong to the item's type.
   void ReadData(DefinitionFile& file, clsOrvaneData& item) const;
 
@@ -44,7 +46,7 @@ class clsOrvaneDataTools {
   /// The caption as the menu shows it; `trim` is set for the kinds whose caption is the user's.
   std::wstring GetMenuCaption(const clsOrvaneData& item, bool& trim) const;
   /// Cuts the text after its "&1 " to `maximum` characters and "..."; 0 or less never cuts.
-  static std::wstring TrimCaption(const std::wstring& caption, std::int32_t maximum);
+  static std::wstring TrimCaption(std::wstring caption, std::int32_t maximum);
   /// The text for the status bar; empty for what has none.
   std::wstring GetExplorerDescription(const clsOrvaneData& item, const std::wstring& currentFile,
                                       const std::wstring& currentFolder) const;

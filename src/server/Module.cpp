@@ -6,6 +6,7 @@ namespace orvane::server {
 namespace {
 constinit HINSTANCE g_handle = nullptr;
 constinit std::atomic<long> g_locks = 0;
+constinit bool g_processEnds = false;
 }  // namespace
 
 void Module::Handle(HINSTANCE handle) {
@@ -34,6 +35,13 @@ void Module::Unlock() {
 }
 bool Module::InUse() {
   return g_locks != 0;
+}
+
+void Module::ProcessEnds(bool ends) {
+  g_processEnds = ends;
+}
+bool Module::ProcessEnds() {
+  return g_processEnds;
 }
 
 }  // namespace orvane::server

@@ -19,6 +19,10 @@ class Module {
   static void Lock();
   static void Unlock();
   static bool InUse();
+
+  /// Whether the process is at its end, and with it every other thread, rather than the DLL alone.
+  static void ProcessEnds(bool ends);
+  static bool ProcessEnds();
 };
 
 /// Keeps the DLL loaded.

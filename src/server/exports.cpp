@@ -27,8 +27,9 @@ ClassFactory::Create CreatorOf(REFCLSID clsid) {
 
 }  // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds) noexcept {
   if (reason == DLL_PROCESS_ATTACH) Module::Handle(module);
+  if (reason == DLL_PROCESS_DETACH) Module::ProcessEnds(processEnds != nullptr);
   return TRUE;
 }
 

@@ -98,7 +98,6 @@ bool BuiltInMenu::AddListEntries(const clsMRU& list, const Target& target) {
 }
 
 void BuiltInMenu::DressListEntry(const clsOrvaneData& record, MenuWriter::Item& item) {
-  item.iconFile = record.Location();
   if (record.IsTypeFile()) item.bitmapKey = MenuWriter::OwnIcon;
   if (record.IsTypeCustomAction()) item.bitmapKey = MenuWriter::ActionBitmap;
   if (!record.IsTypeFolder()) return;

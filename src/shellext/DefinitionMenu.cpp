@@ -132,7 +132,6 @@ bool DefinitionMenu::AddItem(const clsCollection::Node& node, MenuHandle menu) {
   item.node = node;
   item.caption = m_writer.Caption(record);
   item.bitmapKey = kind->bitmapKey;
-  item.iconFile = record.Location();
   if (record.IsTypeFolder()) m_writer.DressFolder(record, item);
   Log(kind->log, m_state.ids.Next(), L" - ", item.caption);
   if (!kind->logLocation.empty()) Log(kind->logLocation, record.Location());

@@ -91,7 +91,6 @@ void DynamicFolders::AddEntry(const clsCollection::Node& node, MenuHandle menu) 
   item.node = node;
   item.caption = record.Caption();
   item.bitmapKey = MenuWriter::OwnIcon;
-  item.iconFile = record.Location();
   item.fileName = true;
   if (!record.IsTypeDynamicFolder()) {
     m_writer.Insert({menu}, std::move(item));

@@ -32,7 +32,7 @@ bool MenuWriter::Insert(const Target& target, Item item) {
   entry.fileName = item.fileName;
   entry.submenu = item.submenu.get();
   entry.record = static_cast<clsOrvaneData*>(node.m_oData.get());
-  if (!m_drawing.AddMenuWithBitmap(entry)) return false;
+  if (!m_drawing.AddMenuWithBitmap(std::move(entry))) return false;
   node.m_lData = ToNumber(item.submenu.release());
   if (target.position) ++*target.position;
   return true;
@@ -98,7 +98,6 @@ void MenuWriter::DressFolder(const clsOrvaneData& record, Item& item) {
   else
     item.bitmapKey = OwnIcon;
 
-  item.iconFile = record.Location();
   // A special folder's location is a number, which has no icon; the folder itself has one.
   if (item.bitmapKey == OwnIcon && record.OptionsIsCSIDL()) {
     Shell& shell = m_globals.platform.shell;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "graphics/OwnerDrawMenu.h"
@@ -37,7 +38,7 @@ class MenuWriter {
     clsCollection::Node node;  // of the command table
     std::wstring caption;
     std::int32_t bitmapKey = NoBitmap;
-    std::wstring iconFile = {};
+    std::optional<std::wstring> iconFile = {};  // unless the record's own place
     bool trimCaption = false;
     bool fileName = false;  // the caption is a name, in which "&" marks no letter
     UniqueMenu submenu = {};

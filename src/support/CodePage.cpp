@@ -12,10 +12,14 @@ CodePage::CodePage(const std::array<wchar_t, 256>& characters) : m_characters(ch
 
 std::wstring CodePage::Decode(std::span<const std::byte> bytes) const {
   std::wstring text(bytes.size(), L'\0');
-  std::ranges::transform(bytes, text.begin(), [this](std::byte byte) {
+  Decode(bytes, text.data());
+  return text;
+}
+
+void CodePage::Decode(std::span<const std::byte> bytes, wchar_t* characters) const {
+  std::ranges::transform(bytes, characters, [this](std::byte byte) {
     return m_characters[std::to_integer<std::size_t>(byte)];
   });
-  return text;
 }
 
 std::vector<std::byte> CodePage::Encode(std::wstring_view text) const {

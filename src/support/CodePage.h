@@ -20,6 +20,8 @@ class CodePage {
   explicit CodePage(const std::array<wchar_t, 256>& characters);
 
   std::wstring Decode(std::span<const std::byte> bytes) const;
+  /// Into as many characters as there are bytes.
+  void Decode(std::span<const std::byte> bytes, wchar_t* characters) const;
   std::vector<std::byte> Encode(std::wstring_view text) const;
 
  private:

@@ -72,6 +72,7 @@ bool clsTrace::Initialize(const std::wstring& file, std::int32_t flags) {
   else if (!(flags & FlagAutoCommit) && !file.empty())
     OpenOutputFile(true);
   m_bInitialised = true;
+  ++s_initialised;
   return true;
 }
 
@@ -80,6 +81,7 @@ void clsTrace::Terminate() {
   m_szFile.clear();
   m_lFlags = 0;
   m_lIndent = 0;
+  if (m_bInitialised) --s_initialised;
   m_bInitialised = false;
 }
 
