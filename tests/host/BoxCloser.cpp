@@ -1,5 +1,7 @@
 #include "host/BoxCloser.h"
 
+#include "host/DialogScript.h"
+
 namespace orvane::host {
 namespace {
 
@@ -7,9 +9,10 @@ thread_local BoxCloser* t_closer = nullptr;
 
 constexpr int TextOfBox = 0xFFFF;  // the identifier of a message box's text
 
-std::wstring TextOf(HWND window) {
-  wchar_t text[1024];
-  return std::wstring(text, static_cast<std::size_t>(GetWindowTextW(window, text, 1024)));
+/// The labels of the product's own dialogs have the same identifier.
+bool IsOurs(HWND window) {
+  const auto module = reinterpret_cast<HMODULE>(GetWindowLongPtrW(window, GWLP_HINSTANCE));
+  return module == GetModuleHandleW(L"orvane.dll");
 }
 
 }  // namespace
@@ -26,7 +29,8 @@ BoxCloser::~BoxCloser() {
 
 LRESULT CALLBACK BoxCloser::OnWindow(int code, WPARAM wParam, LPARAM lParam) {
   const HWND window = reinterpret_cast<HWND>(wParam);
-  const HWND text = code == HCBT_ACTIVATE ? GetDlgItem(window, TextOfBox) : nullptr;
+  const HWND text =
+      code == HCBT_ACTIVATE && !IsOurs(window) ? GetDlgItem(window, TextOfBox) : nullptr;
   if (t_closer && text) {
     t_closer->boxes.push_back(TextOf(window) + L": " + TextOf(text));
     PostMessageW(window, WM_COMMAND, IDOK, 0);

@@ -10,64 +10,18 @@
 #include <functional>
 #include <stdexcept>
 
+#include "host/DialogScript.h"
 #include "platform/win32/NativeHandles.h"
 #include "server/DialogIds.h"
 
 namespace orvane {
 namespace {
 
-std::wstring TextOf(HWND window) {
-  wchar_t text[512];
-  return std::wstring(text, static_cast<std::size_t>(GetWindowTextW(window, text, 512)));
-}
+using host::Click;
+using host::OpenDialog;
+using host::TextOf;
+using Script = host::DialogScript;
 
-/// The thread's open dialog, or null.
-HWND OpenDialog() {
-  HWND dialog = nullptr;
-  const auto look = [](HWND window, LPARAM found) -> BOOL {
-    wchar_t name[16];
-    GetClassNameW(window, name, 16);
-    if (std::wstring(name) != L"#32770") return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&dialog));
-  return dialog;
-}
-
-/// Does one step after the other in the dialog that is open, with its messages running in between.
-class Script {
- public:
-  using Step = std::function<void(HWND)>;
-
-  explicit Script(std::vector<Step> steps) : m_steps(std::move(steps)) {
-    t_script = this;
-    m_timer = SetTimer(nullptr, 0, 30, OnTimer);
-  }
-  ~Script() {
-    KillTimer(nullptr, m_timer);
-    t_script = nullptr;
-  }
-  Script(const Script&) = delete;
-  Script& operator=(const Script&) = delete;
-
-  bool IsDone() const { return m_next == m_steps.size(); }
-
- private:
-  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    const HWND dialog = OpenDialog();
-    if (dialog && t_script && !t_script->IsDone()) t_script->m_steps[t_script->m_next++](dialog);
-  }
-
-  static inline Script* t_script = nullptr;
-  std::vector<Step> m_steps;
-  std::size_t m_next = 0;
-  UINT_PTR m_timer;
-};
-
-void Click(HWND dialog, int control) {
-  PostMessageW(GetDlgItem(dialog, control), BM_CLICK, 0, 0);
-}
 void Press(UINT message, WPARAM key) {
   PostMessageW(GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 : 0);
 }

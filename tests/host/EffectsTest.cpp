@@ -5,9 +5,11 @@
 #include "host/BoxCloser.h"
 #include "host/Com.h"
 #include "host/Definition.h"
+#include "host/DialogScript.h"
 #include "host/Effects.h"
 #include "host/Modes.h"
 #include "menudata/clsOrvaneData.h"
+#include "server/DialogIds.h"
 
 namespace orvane::host {
 namespace {
@@ -34,7 +36,8 @@ class Effects : public testing::Test {
           Item::TypeSelectionTask,
           0,
           {L"", L"List", L"", L"", L"", L"", list, L"<", L">\\n", L"*.txt", L"17"}},
-         {1, Item::TypeCopyToX, 0, {reports, L"Copy there", L"0"}}});
+         {1, Item::TypeCopyToX, 0, {reports, L"Copy there", L"0"}},
+         {1, Item::TypeCopyToX, 0, {reports, L"Move there", L"1"}}});
   }
 
   /// Right-clicks the files and chooses an entry.
@@ -80,6 +83,60 @@ TEST_F(Effects, FixedDestinationCopies) {
     EXPECT_TRUE(fs::exists(scene.Path(name)));
     EXPECT_EQ(fs::file_size(fs::path(scene.Path(L"Reports")) / name), 1u);
   }
+}
+
+// One name at a time: the SHFileOperation of Wine answers "cancelled" to a move of two into one
+// folder, to anybody.
+TEST_F(Effects, FixedDestinationMoves) {
+  ChooseFor({L"R&D.txt"}, L"Move there");
+  EXPECT_FALSE(fs::exists(scene.Path(L"R&D.txt")));
+  EXPECT_EQ(fs::file_size(scene.Path(L"Reports") + L"\\R&D.txt"), 1u);
+}
+
+void Type(HWND dialog, const std::wstring& text) {
+  SetDlgItemTextW(dialog, IDC_DESTINATION, text.c_str());
+}
+std::wstring Destination(HWND dialog) {
+  return TextOf(GetDlgItem(dialog, IDC_DESTINATION));
+}
+
+TEST_F(Effects, DialogCopiesRemembersAndMoves) {
+  const std::wstring reports = scene.Path(L"Reports");
+  {
+    const DialogScript user({[&](HWND dialog) {
+                               EXPECT_EQ(TextOf(dialog), L"Orvane - Copy To");
+                               EXPECT_EQ(Destination(dialog), L"");
+                               Type(dialog, scene.Path(L"a.txt"));
+                               Click(dialog, IDOK);
+                             },
+                             [&](HWND dialog) {
+                               EXPECT_EQ(closer.boxes.size(), 1u);
+                               Type(dialog, reports);
+                               Click(dialog, IDOK);
+                             }},
+                            L"orvane.dll");
+    RightClick click(scene.Folder(), Select(scene.Folder(), {L"a.txt"}).Get());
+    click.Query();
+    EXPECT_TRUE(Choose(click, L"Copy to..."));
+    EXPECT_TRUE(user.IsDone());
+    EXPECT_EQ(closer.boxes,
+              std::vector<std::wstring>{
+                  L"Orvane - Orvane Shell Extension: Destination folder does not exist!"});
+  }
+  EXPECT_TRUE(fs::exists(scene.Path(L"a.txt")));
+  EXPECT_TRUE(fs::exists(reports + L"\\a.txt"));
+  closer.boxes.clear();
+  const DialogScript user({[&](HWND dialog) {
+                            EXPECT_EQ(TextOf(dialog), L"Orvane - Move To");
+                            EXPECT_EQ(Destination(dialog), reports);
+                            EXPECT_EQ(TextOf(GetDlgItem(dialog, IDC_SLOT)), L"&1. " + reports);
+                            Click(dialog, IDOK);
+                          }},
+                          L"orvane.dll");
+  ChooseFor({L"\u0416.txt"}, L"Move to...");
+  EXPECT_TRUE(user.IsDone());
+  EXPECT_FALSE(fs::exists(scene.Path(L"\u0416.txt")));
+  EXPECT_TRUE(fs::exists(reports + L"\\\u0416.txt"));
 }
 
 TEST_F(Effects, CommandPromptStartsInTheFolder) {
