@@ -29,14 +29,25 @@ struct Level {
   std::unique_ptr<DirectoryListing> listing;
 };
 
-void Enter(std::deque<Level>& levels, FileReader& files, const std::wstring& folder) {
+void Enter(std::deque<Level>& levels, FileReader& files, const std::wstring& folder,
+           const Patience& patience) {
   if (levels.size() == MaxDepth) return;
   Level& level = levels.emplace_back();
   Log(L"szDir=", folder);
   level.folder = folder;
   if (!folder.ends_with(L'\\')) level.folder += L'\\';
-  level.listing = files.List(folder, NetworkPatience);
+  level.listing = files.List(folder, patience);
   if (!level.listing) levels.pop_back();
+}
+
+/// Appends to a list that may grow to megabytes. Doubling would write it twice, to fresh pages each
+/// time, which takes longer than the walk; room that is not used yet costs no page.
+template <class... Part>
+void Append(std::wstring& list, Part... parts) {
+  constexpr std::size_t Growth = 8;
+  const std::size_t size = (list.size() + ... + parts.size());
+  if (size > list.capacity()) list.reserve(Growth * size);
+  (list.append(parts), ...);
 }
 
 bool IsFolder(const FoundFile& found) {
@@ -64,18 +75,21 @@ void frmClipboardProgress::BuildSelectionList(bool bRecursive) {
 
 void frmClipboardProgress::BuildLists(const FileNames& names, bool recursive) {
   if (m_Data) m_filter.emplace(m_Data->m_szSelection_Filter);
-  const bool needsKind = recursive || (m_filter && !m_filter->IsEmpty());
+  const bool needsKind = recursive || Filters();
   if (!needsKind) Reserve(names);
-  std::wstring found;
   std::wstring name;
   for (std::wstring_view rest = names.All(); !rest.empty() && !m_bStop;) {
-    found = FileNames::Take(rest);
+    const std::wstring_view found = FileNames::Take(rest);
     Log(L"szFilename=", found);
-    const bool isFolder = needsKind && IsDirectory(m_files, found);
-    name = found;
-    GetName(name);
-    Add(found, name, isFolder);
-    if (isFolder && recursive) BuildSelectionList_(found);
+    const bool isFolder = needsKind && IsDirectory(m_files, std::wstring(found), UntilCancelled());
+    Written written{{}, found};
+    if (m_bShortNames) {
+      name = found;
+      GetName(name);
+      written.name = name;
+    }
+    Add(written, found, isFolder);
+    if (isFolder && recursive) BuildSelectionList_(std::wstring(found));
   }
 }
 
@@ -91,9 +105,17 @@ void frmClipboardProgress::Reserve(const FileNames& names) {
           m_Data->m_szSelection_FilePrefix.size() + m_Data->m_szSelection_FileSuffix.size());
 }
 
+Patience frmClipboardProgress::UntilCancelled() {
+  return {NetworkPatience, [this] {
+            if (m_view) m_view->ShowCount(m_count);  // runs the window's messages, Cancel included
+            return !m_bStop;
+          }};
+}
+
 void frmClipboardProgress::BuildSelectionList_(const std::wstring& szDir) {
   std::deque<Level> levels;
-  Enter(levels, m_files, szDir);
+  const Patience patience = UntilCancelled();
+  Enter(levels, m_files, szDir, patience);
   FoundFile found;
   std::wstring full;
   while (!levels.empty() && !m_bStop) {
@@ -102,38 +124,41 @@ void frmClipboardProgress::BuildSelectionList_(const std::wstring& szDir) {
       levels.pop_back();
       continue;
     }
-    full.assign(level.folder).append(found.name);
-    GetName(full);
-    Add(full, full, IsFolder(found));
+    Written written{level.folder, found.name};
+    if (m_bShortNames || IsFolder(found) || Filters()) {
+      full.assign(level.folder).append(found.name);
+      GetName(full);
+      written = {{}, full};
+    }
+    Add(written, written.name, IsFolder(found));
     if (!IsFolder(found)) continue;
     SetFolder(full);
-    if (!m_bStop && !IsLink(found)) Enter(levels, m_files, full);
+    if (!m_bStop && !IsLink(found)) Enter(levels, m_files, full, patience);
   }
 }
 
-void frmClipboardProgress::Add(const std::wstring& found, const std::wstring& name, bool isFolder) {
+void frmClipboardProgress::Add(const Written& written, std::wstring_view found, bool isFolder) {
   if (m_Data)
-    ProcessFilename(found, name, isFolder);
+    ProcessFilename(written, found, isFolder);
   else
-    m_lines.append(name).append(LineEnd);
+    Append(m_lines, written.folder, written.name, LineEnd);
   ++m_count;
   if (m_view) m_view->ShowCount(m_count);
 }
 
-void frmClipboardProgress::ProcessFilename(const std::wstring& found, const std::wstring& name,
+void frmClipboardProgress::ProcessFilename(const Written& written, std::wstring_view found,
                                            bool isFolder) {
   // No file can bear a quotation mark; in a name made up by another program it would end the quotes
   // around the name and add arguments of its own.
-  if (found.find(L'"') != std::wstring::npos) return;
-  if (!m_filter->IsEmpty() && (isFolder || !m_filter->Matches(LowerCase(found)))) return;
-  const bool quoted = !m_bShortNames && m_Data->SelectionOptions_IsQIS() != 0 &&
-                      name.find(L' ') != std::wstring::npos;
+  if (written.Has(L'"')) return;
+  if (Filters() && (isFolder || !m_filter->Matches(LowerCase(found)))) return;
+  const bool quoted = !m_bShortNames && m_Data->SelectionOptions_IsQIS() != 0 && written.Has(L' ');
   const std::wstring_view quote = quoted ? L"\"" : L"";
-  const auto append = [&](std::wstring& list, std::wstring_view prefix, std::wstring_view suffix) {
-    list.append(prefix).append(quote).append(name).append(quote).append(suffix);
+  const auto wrap = [&](std::wstring& list, std::wstring_view prefix, std::wstring_view suffix) {
+    Append(list, prefix, quote, written.folder, written.name, quote, suffix);
   };
-  append(m_szCmdLine, m_Data->m_szSelection_CmdPrefix, m_Data->m_szSelection_CmdSuffix);
-  append(m_szFile, m_Data->m_szSelection_FilePrefix, m_Data->m_szSelection_FileSuffix);
+  wrap(m_szCmdLine, m_Data->m_szSelection_CmdPrefix, m_Data->m_szSelection_CmdSuffix);
+  wrap(m_szFile, m_Data->m_szSelection_FilePrefix, m_Data->m_szSelection_FileSuffix);
 }
 
 void frmClipboardProgress::GetName(std::wstring& szName) const {

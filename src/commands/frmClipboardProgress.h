@@ -44,14 +44,29 @@ class frmClipboardProgress : public ProgressModel {
   void Cancel() override { m_bStop = true; }
 
  private:
+  /// A name as it is written: a folder's path, empty or with a backslash at its end, and what
+  /// follows it. In two pieces, because a large tree is mostly a matter of copying its names.
+  struct Written {
+    std::wstring_view folder;
+    std::wstring_view name;
+
+    bool Has(wchar_t character) const {
+      return folder.find(character) != std::wstring_view::npos ||
+             name.find(character) != std::wstring_view::npos;
+    }
+  };
+
+  /// What a silent network is given: a while, less when the user cancels.
+  Patience UntilCancelled();
   void BuildLists(const FileNames& names, bool recursive);
   void Reserve(const FileNames& names);
   /// Lists everything under the folder, each folder before its contents, in the file system's
   /// order.
   void BuildSelectionList_(const std::wstring& szDir);
-  /// `found` is what the filter looks at, `name` what is written.
-  void Add(const std::wstring& found, const std::wstring& name, bool isFolder);
-  void ProcessFilename(const std::wstring& found, const std::wstring& name, bool isFolder);
+  bool Filters() const { return m_filter && !m_filter->IsEmpty(); }
+  /// `found` is what a filter looks at: the name in one piece.
+  void Add(const Written& written, std::wstring_view found, bool isFolder);
+  void ProcessFilename(const Written& written, std::wstring_view found, bool isFolder);
   /// Turns a name into the form that is written.
   void GetName(std::wstring& szName) const;
   void SetFolder(const std::wstring& szFolder);

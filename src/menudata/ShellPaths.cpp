@@ -63,8 +63,8 @@ std::wstring GetDisplayName(Shell& shell, const std::wstring& path) {
   return shell.DisplayName(path);
 }
 
-bool IsDirectory(FileReader& files, const std::wstring& path) {
-  const auto attributes = files.Attributes(path);
+bool IsDirectory(FileReader& files, const std::wstring& path, const Patience& patience) {
+  const auto attributes = files.Attributes(path, patience);
   return attributes && (*attributes & FileAttribute::Directory) != 0;
 }
 

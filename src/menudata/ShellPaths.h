@@ -22,7 +22,8 @@ bool IsCurrentFolderCSIDL(Shell& shell, WindowHandle window, std::int32_t csidl,
 std::wstring GetSpecialFolderName(Shell& shell, WindowHandle window, std::int32_t csidl,
                                   bool withPrefix);
 std::wstring GetDisplayName(Shell& shell, const std::wstring& path);
-bool IsDirectory(FileReader& files, const std::wstring& path);
+bool IsDirectory(FileReader& files, const std::wstring& path,
+                 const Patience& patience = Patience::Endless);
 /// The folder a path lies in; a folder is its own, a drive's root keeps its backslash.
 std::wstring GetFolderOfPath(FileReader& files, const std::wstring& path);
 /// A file of that name is there; a folder does not count.

@@ -2,10 +2,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -24,6 +26,20 @@ struct FileAttribute {
 struct FoundFile {
   std::wstring name;
   std::uint32_t attributes = 0;
+};
+
+/// How long a call that hangs on a network may keep its caller waiting.
+struct Patience {
+  static constexpr std::uint32_t Endless = 0xFFFF'FFFF;
+  static constexpr std::uint32_t Slice = 50;  // milliseconds from one question to the next
+
+  Patience(std::uint32_t milliseconds, std::function<bool()> goOn = {})
+      : milliseconds(milliseconds), goOn(std::move(goOn)) {}
+
+  bool Ends() const { return goOn && !goOn(); }
+
+  std::uint32_t milliseconds;
+  std::function<bool()> goOn;  // asked meanwhile; false ends the wait, as a user's Cancel does
 };
 
 /// A walk over one folder, in the order the file system gives; closed with the object.
@@ -55,14 +71,16 @@ class FileReader {
   virtual std::optional<std::vector<std::byte>> Read(const std::wstring& path,
                                                      std::size_t limit = 256u << 20) = 0;
 
-  /// FileAttribute bits of a file or folder; none when there is no such thing.
-  virtual std::optional<std::uint32_t> Attributes(const std::wstring& path) = 0;
+  /// FileAttribute bits of a file or folder; none when there is no such thing, or when it lies on a
+  /// network that does not answer before the patience ends.
+  virtual std::optional<std::uint32_t> Attributes(const std::wstring& path,
+                                                  const Patience& patience = Patience::Endless) = 0;
 
   /// Opens a walk over the folder; null when it is no folder or cannot be listed. A folder on a
-  /// network that does not answer is given up after `patience` milliseconds: the caller's menu must
-  /// not hang with it.
+  /// network that does not answer is given up when the patience ends: the caller's menu must not
+  /// hang with it.
   virtual std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
-                                                 std::uint32_t patience) = 0;
+                                                 const Patience& patience) = 0;
 
   /// The path in its short (8.3) form; empty when there is none.
   virtual std::wstring ShortName(const std::wstring& path) = 0;

@@ -169,6 +169,31 @@ TEST_F(SelectionList, CancelKeepsTheNamesFoundSoFar) {
                                            L"C:\\Work\\Deep\\c.log", L"C:\\Work\\Deep\\Deeper"}));
 }
 
+/// Presses Cancel as soon as a folder is shown that does not answer.
+class Impatient : public ProgressView {
+ public:
+  explicit Impatient(frmClipboardProgress& form) : m_form(form) {}
+
+  void ShowFolder(const std::wstring& folder) override { m_waits = folder == L"C:\\Work\\Deep"; }
+  void ShowCount(std::size_t) override {
+    if (m_waits) m_form.Cancel();
+  }
+
+ private:
+  frmClipboardProgress& m_form;
+  bool m_waits = false;
+};
+
+TEST_F(SelectionList, CancelAnswersWhileAFolderDoesNot) {
+  desktop.files.Stall(L"C:\\Work\\Deep", 60'000);
+  frmClipboardProgress form = Form(work);
+  Impatient user(form);
+  const std::uint32_t start = desktop.clock.Ticks();
+  form.Run(user);
+  EXPECT_TRUE(form.m_bStop);
+  EXPECT_LT(desktop.clock.Ticks() - start, 100u);
+}
+
 TEST_F(SelectionList, FailureBehindTheWindowReachesTheCaller) {
   desktop.clipboard.heldOpen = true;
   frmClipboardProgress form = Form(work);
@@ -207,11 +232,11 @@ class EndlessFolders : public memory::FileSystem {
  public:
   using memory::FileSystem::FileSystem;
 
-  std::optional<std::uint32_t> Attributes(const std::wstring&) override {
+  std::optional<std::uint32_t> Attributes(const std::wstring&, const Patience&) override {
     return FileAttribute::Directory;
   }
 
-  std::unique_ptr<DirectoryListing> List(const std::wstring&, std::uint32_t) override {
+  std::unique_ptr<DirectoryListing> List(const std::wstring&, const Patience&) override {
     class Itself : public DirectoryListing {
      public:
       bool Next(FoundFile& found) override {

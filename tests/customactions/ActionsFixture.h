@@ -18,11 +18,12 @@ class CountingReader : public FileReader {
     ++reads;
     return m_files.Read(path, limit);
   }
-  std::optional<std::uint32_t> Attributes(const std::wstring& path) override {
-    return m_files.Attributes(path);
+  std::optional<std::uint32_t> Attributes(const std::wstring& path,
+                                          const Patience& patience) override {
+    return m_files.Attributes(path, patience);
   }
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
-                                         std::uint32_t patience) override {
+                                         const Patience& patience) override {
     return m_files.List(folder, patience);
   }
   std::wstring ShortName(const std::wstring& path) override { return m_files.ShortName(path); }

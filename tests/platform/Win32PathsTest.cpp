@@ -46,6 +46,9 @@ TEST(Win32Patience, LeavesSlowWorkToItself) {
   EXPECT_LT(GetTickCount() - start, 350u);
   EXPECT_EQ(WaitForSingleObject(ended, 5'000), WAIT_OBJECT_0);
   CloseHandle(ended);
+  const DWORD cancelled = GetTickCount();
+  EXPECT_FALSE(RunWithPatience([] { Sleep(1'000); }, {5'000, [] { return false; }}));
+  EXPECT_LT(GetTickCount() - cancelled, 500u);
   EXPECT_EQ(AskWithPatience([] { return 7; }, 5'000, 0), 7);
   EXPECT_EQ(AskWithPatience([] { return Sleep(200), 7; }, 10, 0), 0);
 }

@@ -109,21 +109,19 @@ std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path,
   return *content;
 }
 
-std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path) {
+std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
+                                                    const Patience& patience) {
   const Names names = Split(path);
-  if (!Enter(names)) return std::nullopt;
+  if (!Enter(names, patience)) return std::nullopt;
   const FileNode* node = FindOrFail(names);
   if (!node) return std::nullopt;
   return node->attributes;
 }
 
 std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
-                                                   std::uint32_t patience) {
+                                                   const Patience& patience) {
   const Names names = Split(folder);
-  const std::uint32_t wait = StallOf(names);
-  m_clock.Advance(std::min(wait, patience));
-  if (m_faults.Hit()) return Fail(IoFailure), nullptr;
-  if (wait > patience) return Fail(SemaphoreTimeout), nullptr;
+  if (!Enter(names, patience)) return nullptr;
   FileNode* node = FindOrFail(names);
   if (!node) return nullptr;
   if (!node->IsFolder()) return Fail(NotADirectory), nullptr;
@@ -333,12 +331,17 @@ std::uint32_t FileSystem::StallOf(const Names& names) const {
   return 0;
 }
 
-/// Where every call but List begins: waits out a silent network, and fails when a test says so.
-bool FileSystem::Enter(const Names& names) {
-  m_clock.Advance(StallOf(names));
-  if (!m_faults.Hit()) return true;
-  Fail(IoFailure);
-  return false;
+/// Where every call begins: waits for a silent network, and fails when a test says so.
+bool FileSystem::Enter(const Names& names, const Patience& patience) {
+  const std::uint32_t wait = StallOf(names);
+  const std::uint32_t end = std::min(wait, patience.milliseconds);
+  for (std::uint32_t waited = 0; waited < end; waited += Patience::Slice) {
+    if (patience.Ends()) return Fail(SemaphoreTimeout), false;
+    m_clock.Advance(std::min(Patience::Slice, end - waited));
+  }
+  if (m_faults.Hit()) return Fail(IoFailure), false;
+  if (wait > end) return Fail(SemaphoreTimeout), false;
+  return true;
 }
 
 void FileSystem::Written(const std::wstring& path, std::wstring text) {

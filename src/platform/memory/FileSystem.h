@@ -30,9 +30,10 @@ class FileSystem : public orvane::FileSystem {
 
   std::optional<std::vector<std::byte>> Read(const std::wstring& path,
                                              std::size_t limit = 256u << 20) override;
-  std::optional<std::uint32_t> Attributes(const std::wstring& path) override;
+  std::optional<std::uint32_t> Attributes(const std::wstring& path,
+                                          const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
-                                         std::uint32_t patience) override;
+                                         const Patience& patience) override;
   std::wstring ShortName(const std::wstring& path) override;
   std::wstring WorkingDirectory() override { return m_working; }
   std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) override;
@@ -74,7 +75,7 @@ class FileSystem : public orvane::FileSystem {
   FileNode* FindToChange(const Names& names);
   bool In(Trouble trouble, const Names& names) const;
   std::uint32_t StallOf(const Names& names) const;
-  bool Enter(const Names& names);
+  bool Enter(const Names& names, const Patience& patience = Patience::Endless);
   void Fail(std::uint32_t error) { m_lastError = error; }
   FileNode* FindOrCreate(const Names& names, const std::wstring& path);
   void Written(const std::wstring& path, std::wstring text);

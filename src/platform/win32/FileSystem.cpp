@@ -117,10 +117,20 @@ std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path,
   return bytes;
 }
 
-std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(NativePath(path).c_str());
-  if (!Check(attributes != INVALID_FILE_ATTRIBUTES)) return std::nullopt;
-  return attributes;
+std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
+                                                    const Patience& patience) {
+  struct Answer {
+    DWORD attributes = INVALID_FILE_ATTRIBUTES;
+    DWORD error = ERROR_SEM_TIMEOUT;
+  };
+  const auto ask = [native = NativePath(path)] {
+    const DWORD attributes = GetFileAttributesW(native.c_str());
+    return Answer{attributes, GetLastError()};
+  };
+  const bool waits = patience.milliseconds == Patience::Endless || !LiesOnNetwork(path);
+  const Answer answer = waits ? ask() : AskWithPatience(ask, patience, Answer{});
+  if (answer.attributes == INVALID_FILE_ATTRIBUTES) return m_lastError = answer.error, std::nullopt;
+  return answer.attributes;
 }
 
 /// Asking a drive for its kind takes as long as listing a folder, or, under Wine, a hundred files.
@@ -139,7 +149,7 @@ bool FileSystem::LiesOnNetwork(const std::wstring& folder) {
 }
 
 std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
-                                                   std::uint32_t patience) {
+                                                   const Patience& patience) {
   if (folder.empty()) return m_lastError = ERROR_PATH_NOT_FOUND, nullptr;
   const bool ended = folder.back() == L'\\' || folder.back() == L'/';
   const std::wstring pattern = NativePath(folder + (ended ? L"*" : L"\\*"));

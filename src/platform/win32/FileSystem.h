@@ -11,9 +11,10 @@ class FileSystem : public orvane::FileSystem {
  public:
   std::optional<std::vector<std::byte>> Read(const std::wstring& path,
                                              std::size_t limit = 256u << 20) override;
-  std::optional<std::uint32_t> Attributes(const std::wstring& path) override;
+  std::optional<std::uint32_t> Attributes(const std::wstring& path,
+                                          const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
-                                         std::uint32_t patience) override;
+                                         const Patience& patience) override;
   std::wstring ShortName(const std::wstring& path) override;
   std::wstring WorkingDirectory() override;
   std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) override;

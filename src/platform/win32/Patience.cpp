@@ -1,5 +1,7 @@
 #include "platform/win32/Patience.h"
 
+#include <algorithm>
+
 #include "platform/win32/UniqueHandle.h"
 
 namespace orvane::win32 {
@@ -24,9 +26,19 @@ DWORD WINAPI RunTask(void* parameter) {
   FreeLibraryAndExitThread(module, 0);
 }
 
+/// Whether the event comes in time.
+bool IsSet(HANDLE event, const Patience& patience) {
+  for (std::uint32_t left = patience.milliseconds;;) {
+    const DWORD slice = std::min(left, Patience::Slice);
+    if (WaitForSingleObject(event, slice) == WAIT_OBJECT_0) return true;
+    left -= slice;
+    if (left == 0 || patience.Ends()) return false;
+  }
+}
+
 }  // namespace
 
-bool RunWithPatience(std::function<void()> work, DWORD patience) {
+bool RunWithPatience(std::function<void()> work, const Patience& patience) {
   constexpr SIZE_T StackSize = 256 << 10;
   const auto task = std::make_shared<Task>();
   task->work = std::move(work);
@@ -42,7 +54,7 @@ bool RunWithPatience(std::function<void()> work, DWORD patience) {
                                                STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
   if (!thread) return FreeLibrary(task->module), false;
   parameter.release();
-  return WaitForSingleObject(task->done.get(), patience) == WAIT_OBJECT_0;
+  return IsSet(task->done.get(), patience);
 }
 
 }  // namespace orvane::win32
