@@ -93,14 +93,14 @@ clsCollection::Node IconStore::FindKind(const std::wstring& name, std::int32_t s
 
 clsCollection::Node IconStore::Store(const std::optional<SystemIcon>& icon, std::int32_t size) {
   if (!icon) return Unknown();
-  std::wstring key =
+  const std::wstring key =
       L"icon " + std::to_wstring(icon->index) + L" of " + std::to_wstring(icon->imageList);
   clsCollection::Node node = m_bitmaps.ItemViaKey(key);
-  if (!node) node = Convert(*icon, std::move(key), size);
+  if (!node) node = Convert(*icon, key, size);
   return node ? node : Unknown();
 }
 
-clsCollection::Node IconStore::Convert(const SystemIcon& icon, std::wstring key,
+clsCollection::Node IconStore::Convert(const SystemIcon& icon, const std::wstring& key,
                                        std::int32_t size) {
   const UniqueIcon taken(m_icons, m_icons.Take(icon, size));
   Log(L"hImageList=", Hex(static_cast<std::int32_t>(icon.imageList)), L"  iIcon=", icon.index,
@@ -117,7 +117,7 @@ clsCollection::Node IconStore::Convert(const SystemIcon& icon, std::wstring key,
   UniqueBitmap scaled(
       m_gdi, IconToBitmap(m_gdi, surface.get(), taken.get(), ColConst::Menu, size, SmallerIcon));
   Log(L"Adding to bitmap collection");
-  clsCollection::Node node = m_bitmaps.Add(std::move(key));
+  clsCollection::Node node = m_bitmaps.Add(key);
   node->m_lData = ToNumber(scaled.release());
   node->m_lData2 = ToNumber(normal.release());
   return node;

@@ -40,7 +40,7 @@ class IconStore {
   Kind& KindOf(const std::wstring& name);
   clsCollection::Node FindKind(const std::wstring& name, std::int32_t size);
   clsCollection::Node Store(const std::optional<SystemIcon>& icon, std::int32_t size);
-  clsCollection::Node Convert(const SystemIcon& icon, std::wstring key, std::int32_t size);
+  clsCollection::Node Convert(const SystemIcon& icon, const std::wstring& key, std::int32_t size);
   clsCollection::Node Unknown() const { return m_bitmaps.ItemViaKey(6); }
 
   Gdi& m_gdi;

@@ -165,7 +165,7 @@ std::wstring clsOrvaneDataTools::GetExplorerDescription(const clsOrvaneData& ite
   const std::wstring text = Describe(help, item, m_shell, currentFile, currentFolder);
   Log(L"szText=", text);
   if (text.empty()) return {};
-  const std::wstring description = ProductName + std::wstring(help.suffix) + L" - " + text;
+  std::wstring description = ProductName + std::wstring(help.suffix) + L" - " + text;
   Log(L"szText=", description);
   return description;
 }
