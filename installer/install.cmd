@@ -7,6 +7,7 @@ set "CLSID={493E3910-BC83-443B-9017-F5B53DB5F5C4}"
 set "HIVE=HKLM"
 set "TARGET=%ProgramFiles%\Orvane"
 set "HOW=/s"
+set "REFUSED="
 if /i not "%~1"=="user" goto copy
 set "HIVE=HKCU"
 set "TARGET=%LocalAppData%\Orvane"
@@ -22,13 +23,14 @@ call :associate "*"
 call :associate "Directory"
 call :associate "Directory\Background"
 call :associate "Drive"
-if errorlevel 1 goto failed
+if defined REFUSED goto failed
 echo Orvane is installed in %TARGET%.
 exit /b 0
 
 :associate
 "%SystemRoot%\System32\reg.exe" add "%HIVE%\Software\Classes\%~1\shellex\ContextMenuHandlers\Orvane" /ve /d "%CLSID%" /f >nul
-exit /b %ErrorLevel%
+if errorlevel 1 set "REFUSED=yes"
+exit /b 0
 
 :failed
 echo Orvane could not be installed. orvane.dll must lie beside this script; the installation for
