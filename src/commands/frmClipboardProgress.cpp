@@ -41,12 +41,13 @@ void Enter(std::deque<Level>& levels, FileReader& files, const std::wstring& fol
 }
 
 /// Appends to a list that may grow to megabytes. Doubling would write it twice, to fresh pages each
-/// time, which takes longer than the walk; room that is not used yet costs no page.
+/// time, which takes longer than the walk; room that is not used yet costs no page. It counts as
+/// used up, though, wherever memory is promised page by page: a huge list only doubles.
 template <class... Part>
 void Append(std::wstring& list, Part... parts) {
-  constexpr std::size_t Growth = 8;
+  constexpr std::size_t Large = 4 << 20;
   const std::size_t size = (list.size() + ... + parts.size());
-  if (size > list.capacity()) list.reserve(Growth * size);
+  if (size > list.capacity()) list.reserve((size < Large ? 8 : 2) * size);
   (list.append(parts), ...);
 }
 
@@ -76,12 +77,16 @@ void frmClipboardProgress::BuildSelectionList(bool bRecursive) {
 void frmClipboardProgress::BuildLists(const FileNames& names, bool recursive) {
   if (m_Data) m_filter.emplace(m_Data->m_szSelection_Filter);
   const bool needsKind = recursive || Filters();
+  m_patience = {NetworkPatience, [this] {
+                  if (m_view) m_view->ShowCount(m_count);  // runs the window's messages
+                  return !m_bStop;
+                }};
   if (!needsKind) Reserve(names);
   std::wstring name;
   for (std::wstring_view rest = names.All(); !rest.empty() && !m_bStop;) {
     const std::wstring_view found = FileNames::Take(rest);
     Log(L"szFilename=", found);
-    const bool isFolder = needsKind && IsDirectory(m_files, std::wstring(found), UntilCancelled());
+    const bool isFolder = needsKind && IsDirectory(m_files, std::wstring(found), m_patience);
     Written written{{}, found};
     if (m_bShortNames) {
       name = found;
@@ -105,17 +110,9 @@ void frmClipboardProgress::Reserve(const FileNames& names) {
           m_Data->m_szSelection_FilePrefix.size() + m_Data->m_szSelection_FileSuffix.size());
 }
 
-Patience frmClipboardProgress::UntilCancelled() {
-  return {NetworkPatience, [this] {
-            if (m_view) m_view->ShowCount(m_count);  // runs the window's messages, Cancel included
-            return !m_bStop;
-          }};
-}
-
 void frmClipboardProgress::BuildSelectionList_(const std::wstring& szDir) {
   std::deque<Level> levels;
-  const Patience patience = UntilCancelled();
-  Enter(levels, m_files, szDir, patience);
+  Enter(levels, m_files, szDir, m_patience);
   FoundFile found;
   std::wstring full;
   while (!levels.empty() && !m_bStop) {
@@ -133,7 +130,7 @@ void frmClipboardProgress::BuildSelectionList_(const std::wstring& szDir) {
     Add(written, written.name, IsFolder(found));
     if (!IsFolder(found)) continue;
     SetFolder(full);
-    if (!m_bStop && !IsLink(found)) Enter(levels, m_files, full, patience);
+    if (!m_bStop && !IsLink(found)) Enter(levels, m_files, full, m_patience);
   }
 }
 
@@ -148,22 +145,22 @@ void frmClipboardProgress::Add(const Written& written, std::wstring_view found, 
 
 void frmClipboardProgress::ProcessFilename(const Written& written, std::wstring_view found,
                                            bool isFolder) {
-  // No file can bear a quotation mark; in a name made up by another program it would end the quotes
-  // around the name and add arguments of its own.
-  if (written.Has(L'"')) return;
   if (Filters() && (isFolder || !m_filter->Matches(LowerCase(found)))) return;
   const bool quoted = !m_bShortNames && m_Data->SelectionOptions_IsQIS() != 0 && written.Has(L' ');
   const std::wstring_view quote = quoted ? L"\"" : L"";
   const auto wrap = [&](std::wstring& list, std::wstring_view prefix, std::wstring_view suffix) {
     Append(list, prefix, quote, written.folder, written.name, quote, suffix);
   };
-  wrap(m_szCmdLine, m_Data->m_szSelection_CmdPrefix, m_Data->m_szSelection_CmdSuffix);
+  // No file can bear a quotation mark; in a name made up by another program it would end the quotes
+  // around the name and add arguments of its own.
+  if (!written.Has(L'"'))
+    wrap(m_szCmdLine, m_Data->m_szSelection_CmdPrefix, m_Data->m_szSelection_CmdSuffix);
   wrap(m_szFile, m_Data->m_szSelection_FilePrefix, m_Data->m_szSelection_FileSuffix);
 }
 
 void frmClipboardProgress::GetName(std::wstring& szName) const {
   if (!m_bShortNames) return;
-  std::wstring shortName = m_files.ShortName(szName);
+  std::wstring shortName = m_files.ShortName(szName, m_patience);
   if (!shortName.empty()) szName = std::move(shortName);
 }
 

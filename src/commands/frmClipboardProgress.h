@@ -56,8 +56,6 @@ class frmClipboardProgress : public ProgressModel {
     }
   };
 
-  /// What a silent network is given: a while, less when the user cancels.
-  Patience UntilCancelled();
   void BuildLists(const FileNames& names, bool recursive);
   void Reserve(const FileNames& names);
   /// Lists everything under the folder, each folder before its contents, in the file system's
@@ -77,6 +75,7 @@ class frmClipboardProgress : public ProgressModel {
   std::optional<FileFilter> m_filter;
   std::wstring m_lines;  // for the clipboard
   std::size_t m_count = 0;
+  Patience m_patience = Patience::Endless;
   std::exception_ptr m_failure;  // of the run behind the window
 };
 

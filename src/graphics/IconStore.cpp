@@ -20,13 +20,8 @@ std::wstring ExtensionOf(const std::wstring& path) {
   return LowerCase(path.substr(dot));
 }
 
-bool IsRemote(const std::wstring& path) {
-  return path.starts_with(L"\\\\");
-}
-
-/// Drives, and what lies in the name space only ("::{...}").
-bool IsShellsOwn(const std::wstring& path) {
-  return path.starts_with(L"::") || path.ends_with(L":\\") || path.ends_with(L':');
+bool IsDrive(const std::wstring& path) {
+  return path.ends_with(L":\\") || path.ends_with(L':');
 }
 
 /// The shell looks for a folder's own icon only where one of these is set (Windows: "How to
@@ -59,10 +54,11 @@ class PictureSurface {
 
 clsCollection::Node IconStore::Find(const File& file, std::int32_t size) {
   Log(L"szFilename=", file.path);
-  if (IsShellsOwn(file.path)) return Store(m_icons.Find(file.path), size);
+  const bool isInNameSpaceOnly = file.path.starts_with(L"::");
   // A server that does not answer must not hold the menu up.
-  if (IsRemote(file.path))
+  if (!isInNameSpaceOnly && m_files.LiesOnNetwork(file.path))
     return FindKind(file.isFolder ? FolderKind : ExtensionOf(file.path), size);
+  if (isInNameSpaceOnly || IsDrive(file.path)) return Store(m_icons.Find(file.path), size);
 
   std::uint32_t attributes = FileAttribute::Normal;
   if (file.isFolder || !file.isThere) {

@@ -29,6 +29,8 @@ struct FoundFile {
 };
 
 /// How long a call that hangs on a network may keep its caller waiting.
+/// One that a call has used up is used up for every further call: what kept its caller waiting once
+/// is not asked again.
 struct Patience {
   static constexpr std::uint32_t Endless = 0xFFFF'FFFF;
   static constexpr std::uint32_t Slice = 50;  // milliseconds from one question to the next
@@ -38,7 +40,7 @@ struct Patience {
 
   bool Ends() const { return goOn && !goOn(); }
 
-  std::uint32_t milliseconds;
+  mutable std::uint32_t milliseconds;
   std::function<bool()> goOn;  // asked meanwhile; false ends the wait, as a user's Cancel does
 };
 
@@ -82,8 +84,14 @@ class FileReader {
   virtual std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                                  const Patience& patience) = 0;
 
-  /// The path in its short (8.3) form; empty when there is none.
-  virtual std::wstring ShortName(const std::wstring& path) = 0;
+  /// The path in its short (8.3) form; empty when there is none, or when it lies on a network that
+  /// does not answer before the patience ends.
+  virtual std::wstring ShortName(const std::wstring& path,
+                                 const Patience& patience = Patience::Endless) = 0;
+
+  /// Whether the path leads to another machine, which may take long to answer. Told without asking
+  /// that machine.
+  virtual bool LiesOnNetwork(const std::wstring& path) = 0;
 
   virtual std::wstring WorkingDirectory() = 0;
 };

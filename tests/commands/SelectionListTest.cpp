@@ -63,12 +63,6 @@ class SelectionList : public testing::Test {
   DataObject work{L"C:\\Work"};
 };
 
-TEST_F(SelectionList, ClipboardHoldsEverySelectedPathOnALineOfItsOwn) {
-  DataObject two{L"C:\\Notes\\A.TXT", L"C:\\Notes\\my plan.txt"};
-  EXPECT_EQ(Copied(two, false), Lines({L"C:\\Notes\\A.TXT", L"C:\\Notes\\my plan.txt"}));
-  EXPECT_EQ(Copied(work, false), Lines({L"C:\\Work"}));
-}
-
 TEST_F(SelectionList, SelectedFoldersAreWalkedInTheFileSystemsOrder) {
   EXPECT_EQ(Copied(work, true), Lines({L"C:\\Work", L"C:\\Work\\b.doc", L"C:\\Work\\Deep",
                                        L"C:\\Work\\Deep\\c.log", L"C:\\Work\\Deep\\Deeper",
@@ -192,6 +186,14 @@ TEST_F(SelectionList, CancelAnswersWhileAFolderDoesNot) {
   form.Run(user);
   EXPECT_TRUE(form.m_bStop);
   EXPECT_LT(desktop.clock.Ticks() - start, 100u);
+}
+
+TEST_F(SelectionList, ASilentServerIsWaitedForOnce) {
+  desktop.files.Stall(L"\\\\srv\\share", 60'000);
+  DataObject names{L"\\\\srv\\share\\a", L"\\\\srv\\share\\b", L"C:\\Notes\\A.TXT"};
+  const std::uint32_t start = desktop.clock.Ticks();
+  EXPECT_EQ(Listed(names, true, true), L"<\\\\srv\\share\\a><\\\\srv\\share\\b><C:\\Notes\\A.TXT>");
+  EXPECT_LT(desktop.clock.Ticks() - start, 6'000u);
 }
 
 TEST_F(SelectionList, FailureBehindTheWindowReachesTheCaller) {

@@ -26,7 +26,10 @@ class CountingReader : public FileReader {
                                          const Patience& patience) override {
     return m_files.List(folder, patience);
   }
-  std::wstring ShortName(const std::wstring& path) override { return m_files.ShortName(path); }
+  std::wstring ShortName(const std::wstring& path, const Patience& patience) override {
+    return m_files.ShortName(path, patience);
+  }
+  bool LiesOnNetwork(const std::wstring& path) override { return m_files.LiesOnNetwork(path); }
   std::wstring WorkingDirectory() override { return m_files.WorkingDirectory(); }
 
   int reads = 0;

@@ -150,10 +150,7 @@ TEST_F(IconTest, CheckMarksAreFetchedAtOnce) {
 }
 
 TEST_F(IconTest, WhoseIconIsWhose) {
-  auto& files = m_desk.desktop.files;
-  files.AddFolder(L"C:\\own").attributes |= FileAttribute::ReadOnly;
   const std::wstring longPath = L"C:\\" + std::wstring(260, L'x') + L".exe";
-  files.AddFile(longPath);
   const struct {
     const wchar_t* what;
     std::int32_t type;
@@ -173,6 +170,8 @@ TEST_F(IconTest, WhoseIconIsWhose) {
       {L"program beyond the shell's reach", clsOrvaneData::TypeFile, longPath, 0, 1, false},
       {L"file on a server", clsOrvaneData::TypeFile, L"\\\\away\\share\\x.exe", 0, 1, false},
       {L"folder on a server", clsOrvaneData::TypeFolder, L"\\\\away\\share", 0, 1, false},
+      {L"program on a mapped drive", clsOrvaneData::TypeFile, L"Z:\\x.exe", 0, 1, false},
+      {L"mapped drive", clsOrvaneData::TypeFolder, L"Z:\\", 0, 1, false},
   };
   for (const auto& row : rows) {
     MenuDesk desk;
@@ -180,7 +179,9 @@ TEST_F(IconTest, WhoseIconIsWhose) {
     desk.desktop.files.AddFile(longPath);
     desk.desktop.files.AddFolder(L"C:\\plain");
     desk.desktop.files.AddFolder(L"C:\\own").attributes |= FileAttribute::ReadOnly;
+    desk.desktop.files.Stall(L"Z:\\", 30'000);
     desk.Load();
+    const std::uint32_t start = desk.desktop.clock.Ticks();
     desk.Record(1, row.type, L"item");
     desk.Add(desk.menu, 1, L"item", OwnIcon, row.path);
     const BitmapHandle picture = desk.PictureOf(1);
@@ -189,6 +190,7 @@ TEST_F(IconTest, WhoseIconIsWhose) {
     const auto unknown = ToHandle<BitmapHandle>(desk.bitmaps.ItemViaKey(6)->m_lData2);
     EXPECT_EQ(picture == unknown, row.unknown) << row.what;
     EXPECT_NE(picture, BitmapHandle::None);
+    EXPECT_EQ(desk.desktop.clock.Ticks(), start) << row.what;
   }
 }
 

@@ -132,9 +132,13 @@ std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
   return std::make_unique<Listing>(std::move(found), m_faults);
 }
 
-std::wstring FileSystem::ShortName(const std::wstring& path) {
+bool FileSystem::LiesOnNetwork(const std::wstring& path) {
+  return path.starts_with(L"\\\\") || StallOf(Split(path)) != 0;
+}
+
+std::wstring FileSystem::ShortName(const std::wstring& path, const Patience& patience) {
   const Names names = Split(path);
-  if (!Enter(names) || !FindOrFail(names)) return {};
+  if (!Enter(names, patience) || !FindOrFail(names)) return {};
   Names shortNames;
   FileNode* node = &m_roots;
   for (const std::wstring& name : names) {
@@ -340,7 +344,7 @@ bool FileSystem::Enter(const Names& names, const Patience& patience) {
     m_clock.Advance(std::min(Patience::Slice, end - waited));
   }
   if (m_faults.Hit()) return Fail(IoFailure), false;
-  if (wait > end) return Fail(SemaphoreTimeout), false;
+  if (wait > end) return patience.milliseconds = 0, Fail(SemaphoreTimeout), false;
   return true;
 }
 

@@ -34,7 +34,9 @@ class FileSystem : public orvane::FileSystem {
                                           const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                          const Patience& patience) override;
-  std::wstring ShortName(const std::wstring& path) override;
+  std::wstring ShortName(const std::wstring& path,
+                         const Patience& patience = Patience::Endless) override;
+  bool LiesOnNetwork(const std::wstring& path) override;
   std::wstring WorkingDirectory() override { return m_working; }
   std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) override;
   bool Remove(const std::wstring& path) override;

@@ -117,6 +117,10 @@ std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path,
   return bytes;
 }
 
+bool FileSystem::Waits(const std::wstring& path, const Patience& patience) {
+  return patience.milliseconds != Patience::Endless && LiesOnNetwork(path);
+}
+
 std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
                                                     const Patience& patience) {
   struct Answer {
@@ -127,8 +131,7 @@ std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
     const DWORD attributes = GetFileAttributesW(native.c_str());
     return Answer{attributes, GetLastError()};
   };
-  const bool waits = patience.milliseconds == Patience::Endless || !LiesOnNetwork(path);
-  const Answer answer = waits ? ask() : AskWithPatience(ask, patience, Answer{});
+  const Answer answer = Waits(path, patience) ? AskWithPatience(ask, patience, Answer{}) : ask();
   if (answer.attributes == INVALID_FILE_ATTRIBUTES) return m_lastError = answer.error, std::nullopt;
   return answer.attributes;
 }
@@ -155,19 +158,21 @@ std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
   const std::wstring pattern = NativePath(folder + (ended ? L"*" : L"\\*"));
   Walk late;
   late.error = ERROR_SEM_TIMEOUT;
-  Walk walk = LiesOnNetwork(folder) ? AskWithPatience([pattern] { return StartWalk(pattern); },
-                                                      patience, std::move(late))
-                                    : StartWalk(pattern);
+  const auto start = [pattern] { return StartWalk(pattern); };
+  Walk walk = Waits(folder, patience) ? AskWithPatience(start, patience, std::move(late)) : start();
   // An empty root folder has not even the two dots to find.
   if (!walk.handle && walk.error != ERROR_FILE_NOT_FOUND) return m_lastError = walk.error, nullptr;
   return std::make_unique<Listing>(std::move(walk));
 }
 
-std::wstring FileSystem::ShortName(const std::wstring& path) {
-  const std::wstring native = NativePath(path);
-  const std::wstring name = GrowingText([&native](wchar_t* text, DWORD size) {
-    return GetShortPathNameW(native.c_str(), text, size);
-  });
+std::wstring FileSystem::ShortName(const std::wstring& path, const Patience& patience) {
+  const auto ask = [native = NativePath(path)] {
+    return GrowingText([&native](wchar_t* text, DWORD size) {
+      return GetShortPathNameW(native.c_str(), text, size);
+    });
+  };
+  const std::wstring name =
+      Waits(path, patience) ? AskWithPatience(ask, patience, std::wstring()) : ask();
   Check(!name.empty());
   return name;
 }

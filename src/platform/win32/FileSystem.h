@@ -15,7 +15,9 @@ class FileSystem : public orvane::FileSystem {
                                           const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                          const Patience& patience) override;
-  std::wstring ShortName(const std::wstring& path) override;
+  std::wstring ShortName(const std::wstring& path,
+                         const Patience& patience = Patience::Endless) override;
+  bool LiesOnNetwork(const std::wstring& path) override;
   std::wstring WorkingDirectory() override;
   std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) override;
   bool Remove(const std::wstring& path) override;
@@ -25,7 +27,7 @@ class FileSystem : public orvane::FileSystem {
 
  private:
   bool Check(bool success);
-  bool LiesOnNetwork(const std::wstring& folder);
+  bool Waits(const std::wstring& path, const Patience& patience);
 
   std::uint32_t m_lastError = 0;
   std::wstring m_drive;  // the last one that was asked for its kind

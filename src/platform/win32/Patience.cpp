@@ -32,13 +32,15 @@ bool IsSet(HANDLE event, const Patience& patience) {
     const DWORD slice = std::min(left, Patience::Slice);
     if (WaitForSingleObject(event, slice) == WAIT_OBJECT_0) return true;
     left -= slice;
-    if (left == 0 || patience.Ends()) return false;
+    if (left == 0) return patience.milliseconds = 0, false;
+    if (patience.Ends()) return false;
   }
 }
 
 }  // namespace
 
 bool RunWithPatience(std::function<void()> work, const Patience& patience) {
+  if (patience.milliseconds == 0) return false;
   constexpr SIZE_T StackSize = 256 << 10;
   const auto task = std::make_shared<Task>();
   task->work = std::move(work);
