@@ -47,8 +47,9 @@ class Processes {
   /// Zeros for what is no window.
   virtual WindowOwner OwnerOf(WindowHandle window) = 0;
 
-  /// Brings the process's application, its first visible top window, to the foreground. False when
-  /// it has none or the desktop refuses.
+  /// Brings the process's application to the foreground: its main window, or the dialog in front of
+  /// it. An application that is there already stays as it is, since the window that has the focus
+  /// may be any of its windows. False when it has no window or the desktop refuses.
   virtual bool Activate(std::uint32_t process) = 0;
 };
 

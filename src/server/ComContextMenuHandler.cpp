@@ -1,5 +1,7 @@
 #include "server/ComContextMenuHandler.h"
 
+#include <wrl/client.h>
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -73,6 +75,8 @@ HRESULT ComContextMenuHandler::QueryContextMenu(HMENU menu, UINT index, UINT fir
 
 HRESULT ComContextMenuHandler::InvokeCommand(CMINVOKECOMMANDINFO* record) noexcept {
   if (!record) return E_POINTER;
+  // Dialogs run messages: a host that closes its window meanwhile may let go of the handler.
+  const Microsoft::WRL::ComPtr<IContextMenu3> alive(this);
   return Guarded(S_OK, [&]() -> HRESULT {
     const auto request = ReadInvokeRecord(*record, m_thread.Globals().codePage);
     return request ? m_handler.IContextMenu_InvokeCommand(*request) : E_INVALIDARG;

@@ -54,8 +54,8 @@ INT_PTR ProgressDialog::Other(UINT message, WPARAM, LPARAM) {
     Work();
     return TRUE;
   }
-  // With its owner, while the work goes on: nobody can cancel it any more.
-  if (message == WM_DESTROY && m_state == State::Running) m_model.Cancel();
+  // With its owner, before the work is done: nobody can cancel it any more.
+  if (message == WM_DESTROY && m_state != State::Done) m_model.Cancel();
   return FALSE;
 }
 

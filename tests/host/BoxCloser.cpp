@@ -8,6 +8,7 @@ namespace {
 thread_local BoxCloser* t_closer = nullptr;
 
 constexpr int TextOfBox = 0xFFFF;  // the identifier of a message box's text
+constexpr UINT_PTR CloserTimer = 0x0C;
 
 /// The labels of the product's own dialogs have the same identifier.
 bool IsOurs(HWND window) {
@@ -31,11 +32,16 @@ LRESULT CALLBACK BoxCloser::OnWindow(int code, WPARAM wParam, LPARAM lParam) {
   const HWND window = reinterpret_cast<HWND>(wParam);
   const HWND text =
       code == HCBT_ACTIVATE && !IsOurs(window) ? GetDlgItem(window, TextOfBox) : nullptr;
-  if (t_closer && text) {
-    t_closer->boxes.push_back(TextOf(window) + L": " + TextOf(text));
-    PostMessageW(window, WM_COMMAND, IDOK, 0);
-  }
+  if (t_closer && text) SetTimer(window, CloserTimer, 0, &BoxCloser::OnTimer);
   return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// By now the box, which may be activated while it is being made, has its texts.
+void CALLBACK BoxCloser::OnTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(window, timer);
+  if (!t_closer) return;
+  t_closer->boxes.push_back(TextOf(window) + L": " + TextOf(GetDlgItem(window, TextOfBox)));
+  PostMessageW(window, WM_COMMAND, IDOK, 0);
 }
 
 }  // namespace orvane::host

@@ -21,6 +21,7 @@ class BoxCloser {
 
  private:
   static LRESULT CALLBACK OnWindow(int code, WPARAM wParam, LPARAM lParam);
+  static void CALLBACK OnTimer(HWND window, UINT message, UINT_PTR timer, DWORD time);
 
   HHOOK m_hook;
 };

@@ -118,16 +118,6 @@ TYPED_TEST(DataObjectContract, MayHoldNothing) {
   EXPECT_EQ(names.Count(), 0u);
 }
 
-TEST(MemoryDataObject, FailsAsTold) {
-  memory::DataObject object{L"C:\\a"};
-  FileNames names;
-  for (const std::int32_t failure : {memory::DataObject::NoFiles, memory::DataObject::LockFailed}) {
-    object.failure = failure;
-    EXPECT_EQ(object.Files(names), failure);
-    EXPECT_EQ(names.Count(), 0u);
-  }
-}
-
 #ifdef _WIN32
 TEST(Win32DataObject, ReleasesTheMediumOnEveryPath) {
   TestObject source;

@@ -119,54 +119,6 @@ TYPED_TEST(DialogsContract, BrowsingCanBeGivenUp) {
   EXPECT_EQ(browser.opened, 1);
 }
 
-/// A copy dialog whose only good destinations are C:\1, C:\2, ...
-struct CopyTo : CopyToModel {
-  std::wstring accepted;
-  int refused = 0;
-
-  std::wstring Title() override { return L"Orvane - Copy To"; }
-  std::wstring InitialDestination() override { return L"C:\\1"; }
-  std::vector<Slot> Slots() override {
-    return {{L"1. C:\\1", true}, {L"2. C:\\2", true}, {L"3.", false}};
-  }
-  bool HasBackground() override { return false; }
-  std::wstring Choose(std::size_t slot) override { return L"C:\\" + std::to_wstring(slot + 1); }
-  std::wstring Browse(WindowHandle, const std::wstring& destination) override {
-    return destination + L"0";
-  }
-  bool Accept(const std::wstring& destination) override {
-    const bool good = destination.starts_with(L"C:\\");
-    if (good) accepted = destination;
-    refused += !good;
-    return good;
-  }
-};
-
-TEST(MemoryDialogs, TheCopyDialogFollowsTheScript) {
-  struct Row {
-    std::vector<std::wstring> answers;
-    std::wstring accepted;
-    int refused;
-  };
-  for (const Row& row : {
-           Row{{L"ok"}, L"C:\\1", 0},
-           Row{{L"mru_2", L"ok"}, L"C:\\2", 0},
-           Row{{L"mru_2", L"browse", L"ok"}, L"C:\\20", 0},
-           Row{{L"C:\\7"}, L"C:\\7", 0},
-           Row{{L"bad", L"mru_3", L"C:\\7"}, L"C:\\7", 2},  // the third slot is unused
-           Row{{L"bad", L"cancel"}, L"", 1},
-           Row{{L"bad"}, L"", 1},
-           Row{{}, L"", 0},
-       }) {
-    memory::Desktop desktop;
-    for (const std::wstring& answer : row.answers) desktop.answers.Add(answer);
-    CopyTo model;
-    EXPECT_EQ(desktop.dialogs.ShowCopyTo(WindowHandle::None, model), !row.accepted.empty());
-    EXPECT_EQ(model.accepted, row.accepted);
-    EXPECT_EQ(model.refused, row.refused);
-  }
-}
-
 TEST(MemoryDialogs, BrowsingAsksAgainAfterAnInvalidEntry) {
   memory::Desktop desktop;
   desktop.files.AddFolder(L"C:\\Backup");
@@ -176,35 +128,6 @@ TEST(MemoryDialogs, BrowsingAsksAgainAfterAnInvalidEntry) {
   const auto picked = desktop.dialogs.Browse({}, {}, L"", FoldersWithValidation, browser);
   EXPECT_EQ(desktop.shell.Path(picked.item), L"C:\\Backup");
   EXPECT_EQ(browser.invalidEntries, 1);
-}
-
-/// Work over five folders.
-struct Work : ProgressModel {
-  bool cancelled = false;
-  int done = 0;
-
-  std::wstring Title() override { return L"Orvane - Work"; }
-  std::wstring Caption() override { return L"Work"; }
-  void Run(ProgressView& view) noexcept override {
-    for (; done < 5 && !cancelled; ++done) {
-      view.ShowFolder(L"C:\\" + std::to_wstring(done));
-      view.ShowCount(static_cast<std::size_t>(done));
-    }
-  }
-  void Cancel() override { cancelled = true; }
-};
-
-TEST(MemoryDialogs, TheProgressCanBeCancelled) {
-  memory::Desktop desktop;
-  Work whole;
-  desktop.dialogs.ShowProgress({}, whole);
-  EXPECT_EQ(whole.done, 5);
-  EXPECT_EQ(desktop.dialogs.shownFolders.size(), 5u);
-
-  desktop.dialogs.foldersUntilCancel = 2;
-  Work cut;
-  desktop.dialogs.ShowProgress({}, cut);
-  EXPECT_EQ(cut.done, 3);
 }
 
 }  // namespace

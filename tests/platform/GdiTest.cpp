@@ -157,16 +157,6 @@ TEST_P(GdiTest, SelectedObjectComesBackOut) {
   EXPECT_FALSE(Selected(m_gdi, DeviceContext::None, bitmap.get()));
 }
 
-TEST_P(GdiTest, TextColoursAreExchanged) {
-  const UniqueContext context(m_gdi, m_gdi.CreateContext());
-  EXPECT_EQ(m_gdi.ExchangeTextColour(context.get(), Red), Rgb(0, 0, 0));
-  EXPECT_EQ(m_gdi.TextColour(context.get()), Red);
-  EXPECT_EQ(m_gdi.ExchangeBackColour(context.get(), Blue), White);
-  EXPECT_EQ(m_gdi.BackColour(context.get()), Blue);
-  EXPECT_FALSE(m_gdi.ExchangeTransparency(context.get(), true));
-  EXPECT_TRUE(m_gdi.ExchangeTransparency(context.get(), false));
-}
-
 TEST_P(GdiTest, ColoursOfAutomationAreTranslated) {
   const PaletteHandle palette = m_gdi.DefaultPalette();
   const Colour menu = m_gdi.SystemColour(4);

@@ -79,22 +79,6 @@ TYPED_TEST(LauncherContract, BrowsesOnlyWithABrowserAndAnItem) {
   this->launcher.BrowsingDone(WindowHandle::None);
 }
 
-TEST(MemoryLauncher, RecordsWhatItWasAsked) {
-  memory::Desktop desktop;
-  const WindowHandle explorer =
-      desktop.windows.Add({.results = {{memory::Launcher::GetShellBrowser, 0x5550}}});
-  const std::intptr_t browser = desktop.launcher.ShellBrowser(explorer);
-  EXPECT_EQ(browser, 0x5550);
-  const ItemIdList control = desktop.shell.SpecialFolder(WindowHandle::None, 3);
-  EXPECT_EQ(desktop.launcher.BrowseObject(browser, control), 0);
-  desktop.launcher.browserFailures[browser] = -1;
-  EXPECT_EQ(desktop.launcher.BrowseObject(browser, control), -1);
-  ASSERT_EQ(desktop.effects.All().size(), 2u);
-  EXPECT_EQ(desktop.effects.All()[0].call, "SendMessage");
-  EXPECT_EQ(desktop.effects.All()[1].call, "BrowseObject");
-  EXPECT_EQ(std::get<std::wstring>(desktop.effects.All()[1].fields[0].second), L"Control Panel");
-}
-
 #ifdef _WIN32
 class TestBrowser : public IShellBrowser {
  public:

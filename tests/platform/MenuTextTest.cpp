@@ -29,16 +29,5 @@ TEST(MenuText, ShowsLevelsSeparatorsAndStates) {
   EXPECT_EQ(MenuText(menus, menu), L"");
 }
 
-TEST(MemoryMenus, TheChosenCallFails) {
-  Faults faults;
-  Menus menus(faults);
-  const UniqueMenu menu(menus, menus.CreatePopup());
-  faults.FailCall(2);
-  EXPECT_TRUE(menus.Insert(menu.get(), Menus::Append, {.caption = L"a"}));
-  EXPECT_FALSE(menus.Insert(menu.get(), Menus::Append, {.caption = L"b"}));
-  EXPECT_TRUE(menus.Insert(menu.get(), Menus::Append, {.caption = L"c"}));
-  EXPECT_EQ(menus.Count(menu.get()), 2);
-}
-
 }  // namespace
 }  // namespace orvane::memory

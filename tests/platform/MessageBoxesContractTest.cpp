@@ -27,6 +27,10 @@ struct OnMemory {
 #ifdef _WIN32
 struct OnWindows {
   win32::MessageBoxes boxes;
+  HWND beside = CreateWindowExW(0, L"Static", L"Orvane beside a box", WS_POPUP | WS_VISIBLE, 0, 0,
+                                9, 9, nullptr, nullptr, nullptr, nullptr);
+
+  ~OnWindows() { DestroyWindow(beside); }
 
   Answer Show(Buttons buttons, const wchar_t* pressed) {
     const HANDLE presser =
@@ -46,7 +50,9 @@ struct OnWindows {
                                        : IDCANCEL;
     for (int i = 0; i < 500; ++i, Sleep(20)) {
       const HWND box = FindWindowW(L"#32770", L"Orvane test box");
-      if (box && IsWindowVisible(box) && PostMessageW(box, WM_COMMAND, id, 0)) return 0;
+      if (!box || !IsWindowVisible(box)) continue;
+      EXPECT_FALSE(IsWindowEnabled(FindWindowW(L"Static", L"Orvane beside a box")));
+      if (PostMessageW(box, WM_COMMAND, id, 0)) return 0;
     }
     return 0;
   }

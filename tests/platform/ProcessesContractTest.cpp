@@ -101,14 +101,41 @@ TYPED_TEST(ProcessesContract, ActivatesWhatHasAWindow) {
   EXPECT_FALSE(this->processes.PostQuit(NoProcess));
 }
 
-TEST(MemoryProcesses, HideWhatCannotBeOpened) {
-  OnMemory known;
-  EXPECT_TRUE(Contains(known.processes.Ids(), 4));
-  EXPECT_EQ(known.processes.Executable(4), L"");
-  EXPECT_TRUE(known.processes.ModuleSnapshot(4).empty());
-  EXPECT_TRUE(known.processes.Activate(known.self));
-  EXPECT_EQ(known.desktop.windows.Active(), known.window);
+#ifdef _WIN32
+class Win32Processes : public testing::Test {
+ protected:
+  ~Win32Processes() override {
+    for (const HWND window : m_windows) DestroyWindow(window);
+  }
+
+  HWND Open(DWORD style, HWND owner = nullptr) {
+    const HWND window =
+        CreateWindowExW(style, L"Static", L"Orvane test", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                        99, 99, owner, nullptr, nullptr, nullptr);
+    m_windows.insert(m_windows.begin(), window);
+    return window;
+  }
+
+  HWND ForegroundAfterActivation() {
+    EXPECT_TRUE(m_processes.Activate(GetCurrentProcessId()));
+    return GetForegroundWindow();
+  }
+
+  win32::Processes m_processes;
+  std::vector<HWND> m_windows;  // those above others first
+};
+
+TEST_F(Win32Processes, LeaveTheWindowThatHasTheFocusInFront) {
+  const HWND main = Open(0);
+  const HWND dialog = Open(0, main);
+  EnableWindow(main, FALSE);
+  SetForegroundWindow(dialog);
+  EXPECT_EQ(ForegroundAfterActivation(), dialog);
+  Open(WS_EX_TOOLWINDOW | WS_EX_TOPMOST);
+  SetForegroundWindow(dialog);
+  EXPECT_EQ(ForegroundAfterActivation(), dialog);
 }
+#endif
 
 }  // namespace
 }  // namespace orvane

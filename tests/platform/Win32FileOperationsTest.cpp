@@ -1,13 +1,10 @@
-#include <gtest/gtest.h>
-
-#include "platform/memory/Desktop.h"
 #ifdef _WIN32
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <shellapi.h>
 
 #include "platform/win32/FileOperations.h"
-#endif
 
 namespace orvane {
 namespace {
@@ -18,27 +15,6 @@ FileNames Names(std::initializer_list<std::wstring_view> list) {
   return names;
 }
 
-TEST(MemoryFileOperations, RecordTheOperation) {
-  memory::Desktop desktop;
-  auto& operations = desktop.operations;
-  EXPECT_EQ(operations.Run(WindowHandle::None, FileOperations::Function::Copy,
-                           Names({L"C:\\a", L"C:\\b c"}), L"D:\\to", FileOperations::AllowUndo),
-            0);
-  ASSERT_EQ(desktop.effects.All().size(), 1u);
-  const auto& fields = desktop.effects.All()[0].fields;
-  EXPECT_EQ(std::get<std::wstring>(fields[0].second), L"copy");
-  EXPECT_EQ(std::get<std::vector<std::wstring>>(fields[1].second),
-            (std::vector<std::wstring>{L"C:\\a", L"C:\\b c"}));
-  EXPECT_EQ(std::get<std::wstring>(fields[2].second), L"D:\\to");
-  EXPECT_EQ(std::get<std::int64_t>(fields[3].second), 64);
-
-  EXPECT_EQ(operations.Run({}, FileOperations::Function::Move, {}, L"D:\\", 0), 0);
-  EXPECT_EQ(operations.Run({}, FileOperations::Function::Move, Names({L"C:\\*"}), L"D:\\", 0),
-            FileOperations::InvalidName);
-  EXPECT_EQ(desktop.effects.All().size(), 1u);
-}
-
-#ifdef _WIN32
 class Win32FileOperations : public testing::Test {
  protected:
   Win32FileOperations() {
@@ -98,7 +74,7 @@ TEST_F(Win32FileOperations, RefuseWildcardsAndReportFailures) {
                            root + L"\\to", Quietly),
             0);
 }
-#endif
 
 }  // namespace
 }  // namespace orvane
+#endif

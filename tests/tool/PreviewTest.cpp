@@ -152,6 +152,24 @@ TEST_F(Preview, ListsWhatLeftTheComponent) {
   EXPECT_FALSE(std::filesystem::exists(m_driveC / "Work/t.log")) << "the drive was written to";
 }
 
+TEST_F(Preview, PlaysAnActionIntoTheInvokingWindow) {
+  const std::filesystem::path actions = m_scratch.Path() / "actions.ini";
+  std::ofstream(actions) << "[a]\nType=1\nOptions=1\nDescription=d\nCaption=Frame\nCaptionMatch=2\n"
+                            "Actions=x\n";
+  for (const std::size_t parents : {0u, 1u, 2u}) {
+    Arguments arguments = {"--actions", actions.string(), "--invoke", "Orvane/Work"};
+    for (std::size_t i = 0; i <= parents; ++i) {
+      arguments.push_back("--window");
+      arguments.push_back(i == parents ? "Top:Frame:C:\\a.exe" : "Edit:Save:C:\\a.exe");
+    }
+    const Json effects = ShowJson(arguments)["effects"];
+    EXPECT_TRUE(std::ranges::any_of(
+        effects,
+        [](const Json& effect) { return effect["call"] == "SendKeys" && effect["text"] == "x"; }))
+        << parents << effects;
+  }
+}
+
 TEST_F(Preview, EndsWithOneLineAndStatus2) {
   const std::string good = Data + "every-kind.cfg";
   std::ofstream(m_scratch.Path() / "bad.reg") << "Windows Registry Editor Version 5.00\n\nstray\n";

@@ -85,7 +85,8 @@ PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(option
 // The windows stand child first on the command line, and a child needs its parent. Without any, the
 // menu is asked for by a folder window.
 void PreviewSession::AddWindows() {
-  desktop.windows.Add({.className = L"Shell_TrayWnd"});
+  constexpr std::uint32_t ShellProcess = 0x1000;
+  desktop.windows.Add({.className = L"Shell_TrayWnd", .process = ShellProcess});
   std::vector<std::string> windows = m_options.windows;
   if (windows.empty()) windows.push_back("CabinetWClass:Folder:C:\\Windows\\explorer.exe");
   for (auto text = windows.rbegin(); text != windows.rend(); ++text) {

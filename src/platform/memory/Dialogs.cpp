@@ -56,6 +56,11 @@ class Dialogs::Progress : public ProgressView {
 
 void Dialogs::ShowProgress(WindowHandle, ProgressModel& model) {
   shownTitles.push_back(model.Title());
+  const std::wstring* next = m_answers.Peek();
+  if (next && *next == L"cancel") {
+    m_answers.Take();
+    model.Cancel();
+  }
   Progress progress(*this, model);
   model.Run(progress);
 }

@@ -66,7 +66,10 @@ Processes::WindowOwner Processes::OwnerOf(WindowHandle window) {
 }
 
 bool Processes::Activate(std::uint32_t process) {
-  const WindowHandle top = m_faults.Hit() ? WindowHandle::None : m_windows.TopWindowOf(process);
+  if (m_faults.Hit()) return false;
+  const Windows::Window* active = m_windows.Look(m_windows.Active());
+  if (active && active->process == process) return true;
+  const WindowHandle top = m_windows.TopWindowOf(process);
   if (top == WindowHandle::None) return false;
   m_windows.Activate(top);
   return true;

@@ -93,16 +93,19 @@ class Typist {
   bool WaitUntilTaken(const KeyEvent& event) {
     const int key = event.kind == KeyEvent::Kind::Character ? VK_PACKET : event.code;
     const ULONGLONG sent = GetTickCount64();
-    for (int turn = 0; !IsTaken(key, event.up); ++turn) {
-      if (GetTickCount64() - sent >= SwallowedAfter) return IsWaitingForInput();
+    for (int turn = 0; m_input.IsShared() && GetTickCount64() - sent < SwallowedAfter; ++turn) {
+      if (IsTaken(key, event.up)) return m_idle = 0, true;
       Sleep(turn < 10 ? 0 : 1);
     }
-    return true;
+    if (!IsWaitingForInput()) return false;
+    const ULONGLONG waited = GetTickCount64() - sent;
+    if (waited >= SwallowedAfter) m_idle += waited;
+    return m_idle < Keyboard::Patience;
   }
 
   bool IsTaken(int key, bool up) {
     if (m_own) Windows().RunMessages(Keyboard::Patience);
-    return m_input.IsShared() && (GetKeyState(key) < 0) != up;
+    return (GetKeyState(key) < 0) != up;
   }
 
   /// A window that answers has gone on without the key: it was meant for another one, which it
@@ -117,6 +120,7 @@ class Typist {
   SharedInput m_input;
   HWND m_window = nullptr;
   bool m_own = false;
+  ULONGLONG m_idle = 0;  // milliseconds spent on keys that nobody took, one after the other
 };
 
 /// Lets go of the keys that a text broken off after `sent` holds: they would stay down for the

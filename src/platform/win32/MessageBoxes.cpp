@@ -15,7 +15,8 @@ constexpr UINT ButtonRows[] = {MB_OK, MB_OKCANCEL, MB_YESNO};
 
 MessageBoxes::Answer MessageBoxes::Show(const std::wstring& text, const std::wstring& title,
                                         Icon icon, Buttons buttons) {
-  const UINT style = Icons[static_cast<std::size_t>(icon)] |
+  // Without an owner, yet modal: the thread's other windows wait.
+  const UINT style = MB_TASKMODAL | Icons[static_cast<std::size_t>(icon)] |
                      ButtonRows[static_cast<std::size_t>(buttons)] | MB_SETFOREGROUND;
   switch (MessageBoxW(nullptr, text.c_str(), title.c_str(), style)) {
     case IDOK:

@@ -44,20 +44,32 @@ void Walk(DWORD what, std::uint32_t process, BOOL(WINAPI* first)(HANDLE, Record*
   }
 }
 
-struct TopWindowSearch {
-  DWORD process;
-  HWND found;
-};
-
-BOOL CALLBACK IsTopWindow(HWND window, LPARAM parameter) {
-  auto& search = *reinterpret_cast<TopWindowSearch*>(parameter);
+DWORD ProcessOf(HWND window) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process != search.process || !IsWindowVisible(window) || GetWindow(window, GW_OWNER)) {
+  return process;
+}
+
+struct MainWindowSearch {
+  DWORD process;
+  HWND main = nullptr;
+  HWND tool = nullptr;
+};
+
+/// Ends the walk at the first main window. Tool windows, as the taskbar is one of its shell's, are
+/// for programs that have nothing else.
+BOOL CALLBACK FindMainWindow(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<MainWindowSearch*>(parameter);
+  if (ProcessOf(window) != search.process || !IsWindowVisible(window) ||
+      GetWindow(window, GW_OWNER)) {
     return TRUE;
   }
-  search.found = window;
-  return FALSE;
+  const bool isTool = (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
+  if (!isTool)
+    search.main = window;
+  else if (!search.tool)
+    search.tool = window;
+  return isTool;
 }
 
 }  // namespace
@@ -123,11 +135,15 @@ Processes::WindowOwner Processes::OwnerOf(WindowHandle window) {
 }
 
 bool Processes::Activate(std::uint32_t process) {
-  TopWindowSearch search{process, nullptr};
-  EnumWindows(IsTopWindow, reinterpret_cast<LPARAM>(&search));
-  if (!search.found) return false;
-  if (IsIconic(search.found)) ShowWindowAsync(search.found, SW_RESTORE);
-  return SetForegroundWindow(search.found) || GetForegroundWindow() == search.found;
+  if (ProcessOf(GetForegroundWindow()) == process) return true;
+  MainWindowSearch search{.process = process};
+  EnumWindows(FindMainWindow, reinterpret_cast<LPARAM>(&search));
+  const HWND main = search.main ? search.main : search.tool;
+  if (!main) return false;
+  if (IsIconic(main)) ShowWindowAsync(main, SW_RESTORE);
+  // A dialog in front of it is what the user works with.
+  const HWND window = GetLastActivePopup(main);
+  return SetForegroundWindow(window) || GetForegroundWindow() == window;
 }
 
 }  // namespace orvane::win32
