@@ -55,18 +55,38 @@ void WriteValue(ValueWriter& writer, const Definition& definition, std::size_t i
     throw UnwritableText(item, value.name, reason);
 }
 
+/// Reads one piece of a file; what is wrong with it is said with its place.
+template <class Read>
+void ReadAt(const std::wstring& place, Read read) {
+  try {
+    read();
+  } catch (const Error& error) {
+    const bool isNumber = error.Number() == Error::TypeMismatch;
+    throw Error(
+        error.Number(),
+        place + L": " + (isNumber ? L"What should be a number is none" : error.Description()),
+        error.Source());
+  }
+}
+
 }  // namespace
 
 Definition ReadDefinition(DefinitionFile& file, const clsOrvaneDataTools& tools) {
-  const std::int32_t version = tools.File_ReadVersion(file);
-  if (version < tools.MinVersion() || version > tools.MaxVersion())
-    throw Error(Error::InvalidArgument, L"Invalid file version!");
   Definition definition;
-  if (!tools.File_ReadHeader(file, definition.header)) throw CorruptFile();
-  for (std::int32_t i = 0; i < definition.header.ItemCount; ++i) {
+  ReadAt(L"version", [&] {
+    const std::int32_t version = tools.File_ReadVersion(file);
+    if (version < tools.MinVersion() || version > tools.MaxVersion())
+      throw Error(Error::InvalidArgument, L"Invalid file version!");
+  });
+  ReadAt(L"header", [&] {
+    if (!tools.File_ReadHeader(file, definition.header)) throw CorruptFile();
+  });
+  for (std::int32_t i = 1; i <= definition.header.ItemCount; ++i) {
     Definition::Item item;
-    if (!tools.File_ReadItemHeader(file, item.parent, item.data)) throw CorruptFile();
-    tools.ReadData(file, item.data);
+    ReadAt(L"item " + std::to_wstring(i), [&] {
+      if (!tools.File_ReadItemHeader(file, item.parent, item.data)) throw CorruptFile();
+      tools.ReadData(file, item.data);
+    });
     definition.items.push_back(std::move(item));
   }
   return definition;

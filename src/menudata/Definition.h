@@ -40,8 +40,9 @@ class UnwritableText : public Error {
   std::string_view m_value;
 };
 
-/// Reads a whole file. CorruptFile for what is none, Error for another version and for a number
-/// that is none. Parents are not looked at.
+/// Reads a whole file. Error, with the place in its description, for what is none
+/// (CorruptFile::ErrorNumber), for another version and for a number that is none. Parents are not
+/// looked at.
 Definition ReadDefinition(DefinitionFile& file, const clsOrvaneDataTools& tools);
 
 /// The file's bytes. UnwritableText for a text that is too long or has a character that the code

@@ -133,6 +133,7 @@ TEST(MenuDocument, ItemsKnowTheirParentsAndTheirPlaces) {
 std::string Nested(int popups) {
   std::string document = R"({"caption": "r", "items": [)";
   for (int i = 0; i < popups; ++i) document += R"({"type": "popup", "items": [)";
+  document += R"({"type": "separator"})";
   for (int i = 0; i < popups; ++i) document += "]}";
   document += "]}";
   return document;
@@ -153,6 +154,10 @@ TEST(MenuDocument, RefusesWhatIsNoMenuAndSaysWhere) {
       {R"({"caption": "x", "type": "file"})", "/type: is not known"},
       {R"({"options": 1})", "/options: is not known"},
       {R"({"header": [1]})", "/header: must be a list"},
+      {R"({"items": [{"type": "file", "a/b\n": 1}]})", "/items/0/a~1b\\n: is not known"},
+      {R"({"items": [{"type": "file"}, {"type": "file", "type": "root"}]})",
+       "/items/1/type: stands there twice"},
+      {R"({"options": 1e999})", "number overflow"},
       {"[]", "the document: must be an object"},
       {"{\n  \"items\": [}", "parse error at line 2, column 13"},
       {"", "parse error at line 1"},

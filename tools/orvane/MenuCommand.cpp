@@ -15,18 +15,41 @@
 namespace orvane::tool {
 namespace {
 
-/// Writes beside the file and moves the new one over it, so that a failure leaves the old one.
-void ReplaceFile(const std::string& path, std::span<const std::byte> bytes) {
-  const std::string beside = path + ".new";
-  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+namespace fs = std::filesystem;
+
+/// A name beside the file that nothing bears yet.
+fs::path FreeName(const fs::path& path) {
+  fs::path name;
+  for (int i = 1; name.empty() || fs::exists(fs::symlink_status(name)); ++i)
+    name = path.string() + ".new" + std::to_string(i);
+  return name;
+}
+
+bool Write(const fs::path& path, std::span<const std::byte> bytes) {
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(reinterpret_cast<const char*>(bytes.data()),
              static_cast<std::streamsize>(bytes.size()));
   file.close();
+  return static_cast<bool>(file);
+}
+
+/// Writes beside the file and moves the new one over it, so that a failure leaves the old one. A
+/// link stays one, and what is no file, such as a device, is written as it is.
+void ReplaceFile(const std::string& path, std::span<const std::byte> bytes) {
   std::error_code error;
-  if (file) std::filesystem::rename(beside, path, error);
-  if (file && !error) return;
-  std::filesystem::remove(beside, error);
-  throw std::runtime_error(path + ": cannot be written");
+  fs::path target = fs::weakly_canonical(path, error);
+  if (error) target = path;
+  bool written = false;
+  if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
+    written = Write(target, bytes);
+  } else {
+    const fs::path beside = FreeName(target);
+    written = Write(beside, bytes);
+    if (written) fs::rename(beside, target, error);
+    written = written && !error;
+    if (!written) fs::remove(beside, error);
+  }
+  if (!written) throw std::runtime_error(path + ": cannot be written");
 }
 
 /// What reading and writing the file takes of the core.

@@ -85,11 +85,12 @@ class Formatter {
     Json json;
     json["type"] = TypeJson(data.m_lType);
     if (!data.Caption().empty()) json["caption"] = ToUtf8(data.Caption());
-    AddRest(json, item, depth);
+    AddRest(json, item, depth + 1);
     return json;
   }
 
-  /// Everything behind type and caption; what is empty or 0 is left out.
+  /// Everything behind type and caption; what is empty or 0 is left out. `depth` is that of the
+  /// items inside.
   void AddRest(Json& json, std::size_t item, int depth) const {
     const clsOrvaneData& data = m_items[item].data;
     for (const DataValue& value : DataValuesOf(data.m_lType)) {
@@ -103,7 +104,7 @@ class Formatter {
       if (!text.empty()) json[std::string(value.name)] = ToUtf8(text);
     }
     if (data.m_lOptions != 0) json["options"] = BitsJson(data.m_lOptions, OptionNames);
-    if (!m_children[item + 1].empty()) json["items"] = Children(item + 1, depth + 1);
+    if (!m_children[item + 1].empty()) json["items"] = Children(item + 1, depth);
   }
 
   const std::vector<Definition::Item>& m_items;

@@ -1,5 +1,6 @@
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <utility>
 #include <variant>
 
@@ -66,6 +67,61 @@ const DataValue* FindValue(std::int32_t type, std::string_view name) {
   return nullptr;
 }
 
+/// The place of a member, as JSON pointer; characters that would break its line are escaped.
+std::string Member(const std::string& place, const std::string& key) {
+  std::string name;
+  for (const char character : key) {
+    if (character == '~')
+      name += "~0";
+    else if (character == '/')
+      name += "~1";
+    else
+      name += character;
+  }
+  const std::string quoted = Json(name).dump();
+  return place + "/" + quoted.substr(1, quoted.size() - 2);
+}
+
+/// Follows the parser through a document and refuses a key that stands twice in one object, of
+/// which only one value would be seen.
+class KeyCheck {
+ public:
+  bool See(Json::parse_event_t event, const Json& value) {
+    using Event = Json::parse_event_t;
+    if (event == Event::object_end || event == Event::array_end) {
+      m_open.pop_back();
+      return true;
+    }
+    if (event == Event::key) {
+      Open& object = m_open.back();
+      object.key = value.get_ref<const std::string&>();
+      if (!object.keys.insert(object.key).second) Fail(Place(), "stands there twice");
+      return true;
+    }
+    if (!m_open.empty()) ++m_open.back().elements;
+    if (event != Event::value) m_open.emplace_back().isArray = event == Event::array_start;
+    return true;
+  }
+
+ private:
+  struct Open {
+    bool isArray = false;
+    std::size_t elements = 0;
+    std::string key = {};
+    std::set<std::string> keys = {};
+  };
+
+  std::string Place() const {
+    std::string place;
+    for (const Open& open : m_open)
+      place =
+          open.isArray ? place + "/" + std::to_string(open.elements - 1) : Member(place, open.key);
+    return place;
+  }
+
+  std::vector<Open> m_open;
+};
+
 class Parser {
  public:
   ParsedMenu Parse(const Json& document) {
@@ -78,7 +134,7 @@ class Parser {
         if (key == "items")
           AddItems(value, 0, "/items", 0);
         else if (!IsDocumentKey(key))
-          Fail("/" + key, "is not known in a document without a caption");
+          Fail(Member("", key), "is not known in a document without a caption");
       }
     }
     return std::move(m_menu);
@@ -123,12 +179,12 @@ class Parser {
       else if (const DataValue* known = FindValue(type, key))
         Store(value, *known, item.data, place + "/" + key);
       else if (!IsKnownKey(key, place))
-        Fail(place + "/" + key, "is not known for this type of item");
+        Fail(Member(place, key), "is not known for this type of item");
     }
     m_menu.definition.items.push_back(std::move(item));
     m_menu.places.push_back(place);
     const auto index = static_cast<std::int32_t>(m_menu.definition.items.size());
-    if (children) AddItems(*children, index, place + "/items", depth + 1);
+    if (children) AddItems(*children, index, place + "/items", place.empty() ? 0 : depth + 1);
   }
 
   static bool IsKnownKey(std::string_view key, const std::string& place) {
@@ -151,9 +207,13 @@ class Parser {
 
 ParsedMenu ParseMenu(std::string_view json) {
   Json document;
+  KeyCheck keys;
+  const auto see = [&keys](int, Json::parse_event_t event, Json& value) {
+    return keys.See(event, value);
+  };
   try {
-    document = Json::parse(json, nullptr, true, true);
-  } catch (const Json::parse_error& error) {
+    document = Json::parse(json, see, true, true);
+  } catch (const Json::exception& error) {
     // "[json.exception.parse_error.101] parse error at line 3, column 5: ..."
     const std::string message = error.what();
     throw DocumentError(message.substr(message.find("] ") + 2));
