@@ -57,6 +57,7 @@ void clsMRU::AddFile(const std::wstring& text) {
   const auto last = m_entries.begin() + (position - 1);
   *last = text;
   std::rotate(m_entries.begin(), last, last + 1);
+  m_unsaved = true;
   if (m_userInterface)
     UpdateFileMenu(text);
   else
@@ -69,6 +70,7 @@ bool clsMRU::Save() {
     WriteValue(*key, CountValue, m_count);
     for (std::int32_t i = 1; i <= Used(); ++i) WriteValue(*key, EntryValue(i), File(i));
   }
+  m_unsaved = false;
   return true;
 }
 
@@ -83,12 +85,14 @@ bool clsMRU::Load(std::int32_t maximum) {
     for (std::int32_t i = 1; i <= m_count; ++i)
       ReadValue(*key, EntryValue(i), m_entries[static_cast<std::size_t>(i) - 1]);
   }
+  m_unsaved = false;
   if (m_userInterface) UpdateFileMenu({});
   return true;
 }
 
 void clsMRU::Reset() {
   m_count = 0;
+  m_unsaved = true;
   std::ranges::fill(m_entries, std::wstring());
 }
 

@@ -28,6 +28,8 @@ class clsMRU {
   const std::wstring& File(std::int32_t index) const;  // 1-based; Error 9 beyond the slots
   bool FileExists(std::int32_t index) const { return !File(index).empty(); }
   /// Whether changes go to an attached menu control instead of being saved at once.
+  /// Whether it differs from what the registry has: it changed after the last Load or Save.
+  bool IsUnsaved() const { return m_unsaved; }
   bool UserInterface() const { return m_userInterface; }
   void UserInterface(bool on) { m_userInterface = on; }
   /// The control that UpdateFileMenu fills, or null; the caller's.
@@ -54,6 +56,7 @@ class clsMRU {
   std::vector<std::wstring> m_entries;  // one slot for each entry the list may hold
   std::int32_t m_count = 0;
   bool m_userInterface = true;
+  bool m_unsaved = false;
   MenuControl* m_fileMenu = nullptr;
 };
 

@@ -35,6 +35,14 @@ std::wstring DescribeMenu(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t
          std::to_wstring(uFlags);
 }
 
+/// What another living handler of the thread has added stands nowhere else until the last one ends.
+void LoadUnlessUnsaved(clsMRU& list, std::int32_t maximum) {
+  if (list.IsUnsaved())
+    list.MaxFileCount(maximum);
+  else
+    list.Load(maximum);
+}
+
 void LogMessage(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam) {
   Log(L"uMsg=", Hex(static_cast<std::int32_t>(uMsg)), L"  wParam=",
       Hex(static_cast<std::int32_t>(wParam)), L"  lParam=", Hex(static_cast<std::int32_t>(lParam)));
@@ -68,8 +76,8 @@ void ContextMenuHandler::UserControl_Initialize() {
     m_globals.g_QuickAccessMRU.Path(QuickAccessKey);
     m_globals.g_HistoryMRU.Path(HistoryKey);
     m_globals.g_CopyToMRU.Path(CopyToKey);
-    m_globals.g_HistoryMRU.Load(options.m_lShellMaxHistoryMRU);
-    m_globals.g_QuickAccessMRU.Load(options.m_lShellMaxQuickAccessMRU);
+    LoadUnlessUnsaved(m_globals.g_HistoryMRU, options.m_lShellMaxHistoryMRU);
+    LoadUnlessUnsaved(m_globals.g_QuickAccessMRU, options.m_lShellMaxQuickAccessMRU);
     m_globals.g_CopyToMRU.Load(CopyToCount);
     if (options.m_lShellShowIcons > clsOptions::OptionLevel_None)
       LoadMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
@@ -128,9 +136,10 @@ std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
     const std::int32_t result =
         m_state.selection.Capture(m_globals.platform.shell, m_globals.platform.files,
                                   std::move(pidlFolder), std::move(pSelectionObj));
+    if (result != 0) return result;
     Log(L"CurrentFolder=", m_state.selection.CurrentFolder);
     Log(L"CurrentFile=", m_state.selection.CurrentFile);
-    return result;
+    return 0;
   } catch (...) {
     scope.Caught();
     return 0;
@@ -148,8 +157,8 @@ std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMen
     const bool showInfo = m_globals.g_Options.m_bDebugShowWindowsMenuInfo;
     if (showInfo || ActiveDebugTrace()) {
       const std::wstring call = DescribeMenu(hMenu, indexMenu, idCmdFirst, idCmdLast, uFlags);
-      Log(call);
       if (showInfo) TellMenuInfo(call, std::int64_t{idCmdLast} - idCmdFirst);
+      Log(call);
     }
     switch (Participation(hMenu, indexMenu, idCmdFirst, idCmdLast)) {
       case Part::None:
@@ -347,7 +356,9 @@ bool ContextMenuHandler::CanInsertMenuCommand(bool, bool) const {
 
 clsOrvaneData* ContextMenuHandler::Record(std::int32_t lId) const {
   Log(L"lID=", lId);
-  const auto node = m_state.m_colMenuItems.ItemViaKey(lId);
+  // Nodes that stand in no menu share one key, which is nobody's identifier.
+  const auto node =
+      lId == HandlerState::NoKey ? clsCollection::Node() : m_state.m_colMenuItems.ItemViaKey(lId);
   if (!node) Log(L"Entry not found!");
   return node ? static_cast<clsOrvaneData*>(node->m_oData.get()) : nullptr;
 }

@@ -75,7 +75,7 @@ bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
     if (!m_globals.tools.File_ReadItemHeader(file, parentIndex, *record))
       return Refuse(L"File is corrupt!", MessageBoxes::Icon::Stop);
     Log(L"lParentIndex=", parentIndex);
-    if (!HasParent(parentIndex, node->Index)) {
+    if (parentIndex < 0 || parentIndex > node->Index) {
       Log(L"Parent not found: ", parentIndex);
       return false;
     }
@@ -86,18 +86,13 @@ bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
   return true;
 }
 
-// A parent must be there already and be something that holds entries, else the file's tree is none.
-bool DefinitionMenu::HasParent(std::int32_t parentIndex, std::int32_t index) const {
-  if (parentIndex == 0) return true;
-  if (parentIndex < 0 || parentIndex >= index) return false;
-  const auto parent = m_state.m_colMenuItems.Item(parentIndex);
-  const auto& record = static_cast<const clsOrvaneData&>(*parent->m_oData);
-  return record.IsTypeRoot() || record.IsTypePopupMenu();
-}
-
+/// None for an item that holds no entries: what claims to stand below it appears nowhere. What a
+/// dynamic folder holds is the disk's affair.
 MenuHandle DefinitionMenu::ParentMenu(std::int32_t parentIndex) const {
   if (parentIndex == 0) return m_state.m_hRootMenu;
-  return ToHandle<MenuHandle>(m_state.m_colMenuItems.Item(parentIndex)->m_lData);
+  const auto parent = m_state.m_colMenuItems.Item(parentIndex);
+  const auto& record = static_cast<const clsOrvaneData&>(*parent->m_oData);
+  return record.IsTypeDynamicFolder() ? MenuHandle::None : ToHandle<MenuHandle>(parent->m_lData);
 }
 
 bool DefinitionMenu::IsShown(const clsOrvaneData& record) const {
@@ -133,17 +128,16 @@ bool DefinitionMenu::AddItem(const clsCollection::Node& node, MenuHandle menu) {
   item.caption = m_writer.Caption(record);
   item.bitmapKey = kind->bitmapKey;
   if (record.IsTypeFolder()) m_writer.DressFolder(record, item);
-  Log(kind->log, m_state.ids.Next(), L" - ", item.caption);
+  if (kind->popup) m_writer.AddSubmenu(item);
+  if (record.IsTypePopupMenu())
+    Log(kind->log, Hex(item.submenu.get()), L" - ", item.caption);
+  else
+    Log(kind->log, m_state.ids.Next(), L" - ", item.caption);
   if (!kind->logLocation.empty()) Log(kind->logLocation, record.Location());
-  if (record.IsTypeDynamicFolder()) {
+  if (record.IsTypeDynamicFolder())
     m_writer.InsertDynamicFolder(target, std::move(item));
-    return true;
-  }
-  if (kind->popup) {
-    item.submenu = m_writer.CreatePopup();
-    Log(L"NewMenu=", Hex(item.submenu.get()));
-  }
-  m_writer.Insert(target, std::move(item));
+  else
+    m_writer.Insert(target, std::move(item));
   return true;
 }
 

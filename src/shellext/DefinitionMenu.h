@@ -24,7 +24,6 @@ class DefinitionMenu {
  private:
   bool ReadItems(DefinitionFile& file, std::int32_t count);
   bool ReadFile(DefinitionFile& file);
-  bool HasParent(std::int32_t parentIndex, std::int32_t index) const;
   MenuHandle ParentMenu(std::int32_t parentIndex) const;
   bool IsShown(const clsOrvaneData& record) const;
   bool AddItem(const clsCollection::Node& node, MenuHandle menu);

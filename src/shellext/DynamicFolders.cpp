@@ -16,6 +16,10 @@ namespace {
 // user sees the menu hang for that long, once; afterwards the submenu says "(Empty)".
 constexpr std::uint32_t NetworkPatience = 1000;
 
+// Every folder shown is a menu of its own, and a process may have 10,000 menus, windows and the
+// like in all (Windows: "User Objects"). Beyond this many the host would be left without.
+constexpr std::int32_t MaxSubmenus = 4000;
+
 }  // namespace
 
 void DynamicFolders::Open(MenuHandle submenu) {
@@ -37,8 +41,9 @@ void DynamicFolders::CreateDynamicMenu(const clsCollection& node) {
     const auto menu = ToHandle<MenuHandle>(node.m_lKey);
     const auto& item = static_cast<const clsCollection&>(*node.m_oData);
     clsCollection sorted;
-    Log(L"hMenu=", Hex(menu));
-    List(static_cast<const clsOrvaneData&>(*item.m_oData), sorted);
+    const auto& folder = static_cast<const clsOrvaneData&>(*item.m_oData);
+    Log(L"hMenu=", Hex(menu), L"  szDir=", folder.Location());
+    List(folder, sorted);
 
     Log(L"Sorting ", sorted.Count());
     const std::vector<std::int32_t> order = sorted.Sort_Bubble(L"m_szKey");
@@ -59,15 +64,16 @@ void DynamicFolders::CreateDynamicMenu(const clsCollection& node) {
 /// Records for the kept entries, each with its identifier, and their sort keys.
 void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
   std::wstring path = folder.Location();
-  Log(L"szDir=", path);
   if (!path.ends_with(L'\\')) path += L'\\';
   const auto listing = m_globals.platform.files.List(path, NetworkPatience);
   if (!listing) return;
 
   const FileFilter filter(folder.m_szDFolder_Filter);
   const std::int32_t maximum = m_globals.g_Options.m_lShellMaxMenuText;
+  std::int32_t submenus = m_state.m_colDynamicMenus.Count();
   for (FoundFile found; listing->Next(found);) {
     const bool isFolder = (found.attributes & FileAttribute::Directory) != 0;
+    if (isFolder && ++submenus > MaxSubmenus) continue;
     std::wstring key = LowerCase(found.name);
     if (!isFolder && !filter.Matches(key)) continue;
     if (!m_writer.CanInsert()) return;
@@ -96,6 +102,7 @@ void DynamicFolders::AddEntry(const clsCollection::Node& node, MenuHandle menu) 
     m_writer.Insert({menu}, std::move(item));
     return;
   }
+  m_writer.AddSubmenu(item);
   Log(L"Adding dfolder: ", std::int32_t{node->m_lKey}, L" - ", record.Caption());
   Log(L"              : ", record.Location());
   if (m_writer.InsertDynamicFolder({menu}, std::move(item)))

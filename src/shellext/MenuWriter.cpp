@@ -50,11 +50,14 @@ bool MenuWriter::InsertBuiltIn(const Target& target, std::int32_t type, std::int
   return Insert(target, std::move(item));
 }
 
-bool MenuWriter::InsertDynamicFolder(const Target& target, Item item) {
+void MenuWriter::AddSubmenu(Item& item) {
   item.submenu = CreatePopup();
+  Log(L"NewMenu=", Hex(item.submenu.get()));
+}
+
+bool MenuWriter::InsertDynamicFolder(const Target& target, Item item) {
   const clsCollection::Node node = item.node;
   const MenuHandle submenu = item.submenu.get();
-  Log(L"NewMenu=", Hex(submenu));
   if (!Insert(target, std::move(item))) return false;
   m_state.m_colDynamicMenus.Add({}, ToNumber(submenu), node);
   return true;
@@ -117,6 +120,7 @@ std::int32_t MenuWriter::NextPosition(const Target& target) const {
 
 bool MenuWriter::IsCurrentFolder(const clsOrvaneData& record) const {
   const std::wstring& current = m_state.selection.CurrentFolder;
+  if (current.empty()) return false;
   if (record.OptionsIsCSIDL())
     return IsCurrentFolderCSIDL(m_globals.platform.shell, WindowHandle::None, record.FolderCSIDL(),
                                 current);

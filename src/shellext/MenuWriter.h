@@ -62,7 +62,10 @@ class MenuWriter {
   bool InsertBuiltIn(const Target& target, std::int32_t type, std::int32_t bitmapKey,
                      UniqueMenu submenu = {});
 
-  /// A dynamic folder: the item with an empty submenu, which is filled when it opens.
+  /// Gives the item an empty submenu.
+  void AddSubmenu(Item& item);
+
+  /// A dynamic folder: the item with its empty submenu, which is filled when it opens.
   bool InsertDynamicFolder(const Target& target, Item item);
 
   /// The disabled "(Empty)" entry of a submenu that is not filled yet.

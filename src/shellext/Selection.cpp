@@ -21,12 +21,12 @@ std::int32_t Selection::Capture(Shell& shell, FileReader& files, ItemIdList fold
   if (const std::int32_t failure = m_pDataObject->Files(names); failure != 0) return failure;
   constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
   m_lSelectionCount = static_cast<std::int32_t>(std::min(names.Count(), most));
-  Log(L"m_lSelectionCount=", m_lSelectionCount);
   if (m_lSelectionCount == 0) return 0;
 
   std::wstring_view rest = names.All();
   const std::wstring first(FileNames::Take(rest));
   if (m_lSelectionCount == 1) {
+    Log(L"m_lSelectionCount=", m_lSelectionCount);
     m_szSelectedItem = first;
     if (FileExists(files, first)) CurrentFile = first;
   }

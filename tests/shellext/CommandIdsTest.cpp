@@ -33,20 +33,6 @@ TEST(CommandIds, ReservesForDynamicFoldersByWhatIsLeft) {
   }
 }
 
-TEST(CommandIds, FoldersTakeTheReserveOneAfterTheOther) {
-  CommandIds ids(1, 30000);
-  ids.Take();
-  ids.ReserveDynamic();
-  const std::int32_t count = ids.Count();
-  ids.ResumeDynamic();
-  EXPECT_EQ(ids.Take(), 2);
-  EXPECT_EQ(ids.Take(), 3);
-  ids.SuspendDynamic();
-  ids.ResumeDynamic();
-  EXPECT_EQ(ids.Take(), 4);
-  EXPECT_EQ(count, 5002);
-}
-
 TEST(CommandIds, SurvivesTheEndOfThe32BitRange) {
   constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
   CommandIds ids(most, most);

@@ -139,12 +139,14 @@ TEST(DynamicFolders, StopWhereTheIdentifiersEnd) {
   EXPECT_LT(entries.size(), 500u);
 }
 
-TEST(DynamicFolders, HoldTwentyThousandFiles) {
+TEST(DynamicFolders, HoldTwentyThousandFilesAndAsManyFoldersAsTheDesktopBears) {
   Folder click;
   for (int i = 0; i < 20000; ++i)
     click.desktop.files.AddFile(L"C:\\Work\\" + std::to_wstring(i) + L".txt");
+  for (int i = 0; i < 5000; ++i) click.desktop.files.AddFolder(L"C:\\Work\\" + std::to_wstring(i));
   click.ClickAndOpen();
-  EXPECT_EQ(click.desktop.menus.Count(click.Submenu(L"Work")), 20000);
+  EXPECT_EQ(click.desktop.menus.Count(click.Submenu(L"Work")), 20000 + 3999);
+  EXPECT_LE(click.desktop.menus.LiveCount(), 4010u);
 }
 
 TEST(DynamicFolders, IgnoreMessagesForOtherMenus) {

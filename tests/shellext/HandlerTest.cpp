@@ -111,6 +111,7 @@ TEST(Handler, SavesTheListsWithTheLastOne) {
   click.desktop.effects.Clear();
   { ContextMenuHandler second(*click.globals); }
   EXPECT_TRUE(click.desktop.effects.All().empty());
+  EXPECT_EQ(click.globals->g_HistoryMRU.FileCount(), 1) << "lost to the second one's loading";
   click.End();
   EXPECT_FALSE(click.desktop.effects.All().empty());
 }
@@ -128,6 +129,19 @@ TEST(Handler, WritesTheDebugLogOfAMenu) {
         "        Adding designer\r\n", "      RV=2\r\n"})
     EXPECT_NE(log.find(line), std::string::npos) << line << log;
   EXPECT_EQ(click.Boxes().size(), 1u);  // the warning that the log is on
+}
+
+TEST(Handler, BeginsADebugLogThatAnotherHandlerHoldsOpenAnew) {
+  RightClick click;
+  click.Set(L"DebugEnable", 1);
+  click.Set(L"DebugFlags", 0);
+  click.Click();
+  { ContextMenuHandler second(*click.globals); }
+  click.End();
+  const std::string log =
+      click.desktop.files.Content(L"C:\\Program Files\\Orvane\\Debug.dbg").value_or("");
+  EXPECT_NE(log.find("UserControl_Initialize"), std::string::npos);
+  EXPECT_EQ(log.find("UserControl_Initialize"), log.rfind("UserControl_Initialize"));
 }
 
 TEST(Handler, AsksAgainUntilToldNotToWhenTheLogCannotBeOpened) {
