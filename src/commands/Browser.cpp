@@ -44,31 +44,38 @@ class BrowseCallback : public BrowseModel {
   bool m_forFile;
 };
 
+void LogInputs(const std::wstring& szTitle, const std::wstring& szStartFolder,
+               std::uint32_t lFlags) {
+  Log(L"szTitle=", szTitle, L"  szStartFolder=", szStartFolder, L"  lFlags=",
+      Hex(static_cast<std::int32_t>(lFlags)));
+}
+
 }  // namespace
 
 std::wstring Browser::BrowseForFolder(WindowHandle window, const std::wstring& szTitle,
                                       const std::wstring& szStartFolder, std::wstring* displayName,
                                       std::uint32_t lFlags) {
   TraceScope scope(L"BrowseForFolder");
+  LogInputs(szTitle, szStartFolder, lFlags);
   try {
     BrowseCallback callback(m_shell, m_boxes, szStartFolder, false);
     const ItemIdList root = m_shell.SpecialFolder(window, Desktop);
     const Dialogs::Picked picked =
         m_dialogs.Browse(window, root, szTitle, lFlags | FolderFlags, callback);
     std::wstring path = picked.item ? PidlToPath(m_shell, picked.item) : std::wstring();
-    if (!path.empty()) {
-      if (displayName) *displayName = picked.displayName;
-      return path;
-    }
+    if (path.empty()) return szStartFolder;
+    if (displayName) *displayName = picked.displayName;
+    return path;
   } catch (...) {
     scope.Caught();
+    return {};
   }
-  return szStartFolder;
 }
 
 ItemIdList Browser::BrowseForFile(WindowHandle window, const std::wstring& szTitle,
                                   const std::wstring& szStartFolder, std::uint32_t lFlags) {
   TraceScope scope(L"BrowseForFile");
+  LogInputs(szTitle, szStartFolder, lFlags);
   BrowseCallback callback(m_shell, m_boxes, szStartFolder, true);
   const ItemIdList root = m_shell.SpecialFolder(window, Desktop);
   return m_dialogs.Browse(window, root, szTitle, lFlags | FileFlags, callback).item;

@@ -6,6 +6,7 @@
 #include "menudata/ShellPaths.h"
 #include "platform/Clock.h"
 #include "platform/SystemInfo.h"
+#include "support/FullPath.h"
 #include "support/Trace.h"
 
 namespace orvane {
@@ -19,10 +20,6 @@ bool IsListed(const CommandContext& context, const clsOrvaneData& item) {
     if (listed.m_lType == item.m_lType && listed.Location() == item.Location()) return true;
   }
   return false;
-}
-
-bool IsFullPath(const std::wstring& path) {
-  return path.starts_with(L"\\\\") || path.find(L":\\") == 1;
 }
 
 std::wstring InQuotesWhenBlank(const std::wstring& text) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
-#include <new>
 #include <optional>
 
 #include "commands/BuiltInCommands.h"
@@ -123,8 +122,8 @@ constexpr Row Rows[] = {
 /// The identifier of an offset; Error 6 for one that no menu can hold.
 std::int32_t CommandId(const CommandContext& context, std::int32_t offset) {
   const std::int64_t id = std::int64_t{offset} + context.m_lIdCmdFirst;
-  if (offset < 0 || id > std::numeric_limits<std::int32_t>::max())
-    throw Error(Error::Overflow, L"Overflow");
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (id < Limits::min() || id > Limits::max()) throw Error(Error::Overflow, L"Overflow");
   return static_cast<std::int32_t>(id);
 }
 
@@ -140,8 +139,11 @@ bool IsOpen(const CommandContext& context, const InvokeRequest& request) {
 
 /// The entry's node, which has a record; null when there is none.
 clsCollection::Node Find(const CommandContext& context, std::int32_t id) {
-  clsCollection::Node node = context.m_colMenuItems.ItemViaKey(id);
-  if (node && node->m_oData) return node;
+  // Below the first identifier lies only the key that nodes without an entry share.
+  if (id >= context.m_lIdCmdFirst) {
+    clsCollection::Node node = context.m_colMenuItems.ItemViaKey(id);
+    if (node && node->m_oData) return node;
+  }
   Log(L"Entry not found!");
   return nullptr;
 }

@@ -9,6 +9,7 @@ void CopyOrMoveSelection(const frmCopyTo::Services& services, FileOperations& op
                          WindowHandle window, DataObject* dataObject, bool bCopy,
                          const std::wstring& szDestination) {
   TraceScope scope(L"CopyOrMoveSelection");
+  Log(L"bCopy=", bCopy, L"  szDestination=", szDestination);
   frmCopyTo dialog(services);
   if (szDestination.empty()) {
     dialog.m_bCopyTo = bCopy;

@@ -73,7 +73,7 @@ bool Opener::ShellExecuteChecked(Execution execution) {
   if (execution.parameters.empty() && execution.directory.empty()) {
     execution.show = ShowNormal;
   } else {
-    Log(L"Owner=", ToNumber(execution.owner), L"  Op=", execution.verb, L"  File=", execution.file,
+    Log(L"Owner=", Hex(execution.owner), L"  Op=", execution.verb, L"  File=", execution.file,
         L"  Parms=", execution.parameters, L"  Def=", execution.directory, L"  Show=",
         execution.show);
   }
@@ -81,7 +81,7 @@ bool Opener::ShellExecuteChecked(Execution execution) {
   const std::int32_t code = m_launcher.Open(execution);
   if (code < 0 || code > 32) return true;
   const Error error = OpeningError(code);
-  SetPendingError({error.Number(), error.Source(), error.Description()});
+  SetPendingError({error.Number(), error.Source(), error.Description(), error.OsError()});
   return false;
 }
 

@@ -62,7 +62,7 @@ std::wstring FreeName(FileReader& files, const std::wstring& path) {
 Error FileError(std::uint32_t code) {
   const auto found = std::ranges::find(Rows, code, &Row::code);
   const Row& row = found == std::end(Rows) ? Otherwise : *found;
-  return Error(row.number, row.description);
+  return Error(row.number, row.description, {}, code);
 }
 
 std::optional<Error> WriteSelectionFile(FileSystem& files, const std::wstring& path,

@@ -13,10 +13,10 @@
 namespace orvane {
 namespace {
 
-void TreatBackSlashes(clsOrvaneData& item) {
+void TreatBackSlashes(clsOrvaneData& item, const CodePage& codePage) {
   for (FieldText* text : {&item.m_szSelection_CmdPrefix, &item.m_szSelection_CmdSuffix,
                           &item.m_szSelection_FilePrefix, &item.m_szSelection_FileSuffix})
-    *text = clsSprintf::TreatBackSlash(*text);
+    *text = clsSprintf::TreatBackSlash(*text, codePage);
 }
 
 void BuildLists(const CommandContext& context, WindowHandle window, bool recursive,
@@ -65,7 +65,7 @@ void ExecuteSelectionTask(const CommandContext& context, WindowHandle window, cl
   form.m_pSelection = context.m_pDataObject.get();
   form.m_Data = &item;
   form.m_bShortNames = bCtrl || item.SelectionOptions_IsShortNames() != 0;
-  TreatBackSlashes(item);
+  TreatBackSlashes(item, context.codePage);
   BuildLists(context, window, bShift || item.SelectionOptions_IsRecurse() != 0, form);
   if (form.m_bStop) return;
   if (!item.m_szSelection_Filter.empty() && form.m_szFile.empty()) {

@@ -38,7 +38,7 @@ bool MatchString(const MatchText& szSrc, const MatchText& szDest, std::int32_t l
 }
 
 MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd) {
-  MatchTarget target{.chain = {}, .exe = MatchText(process.GetExeViaHwnd(hWnd))};
+  MatchTarget target;
   for (WindowHandle window = hWnd; window != WindowHandle::None && target.chain.size() < MaxChain;
        window = windows.Parent(window)) {
     std::wstring className, caption;
@@ -46,6 +46,7 @@ MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWn
     Log(L"szClass=", className, L"  szCaption=", caption);
     target.chain.push_back({MatchText(std::move(className)), MatchText(std::move(caption))});
   }
+  target.exe = MatchText(process.GetExeViaHwnd(hWnd));
   return target;
 }
 

@@ -12,7 +12,7 @@ class clsProcess;
 
 /// A text beside its lower-case form, so that a long caption is not folded anew for every action.
 struct MatchText {
-  explicit MatchText(std::wstring szText);
+  explicit MatchText(std::wstring szText = {});
 
   std::wstring text;
   std::wstring lower;

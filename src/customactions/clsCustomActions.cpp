@@ -36,6 +36,7 @@ std::int32_t clsCustomActions::LoadEx(std::vector<std::wstring>& szSectionsArray
                                       std::int32_t lType, const std::wstring& szPath,
                                       bool bIgnoreDisabled) {
   TraceScope scope(L"LoadEx");
+  Log(L"lType=", lType, L"  szPath=", szPath, L"  bIgnoreDisabled=", bIgnoreDisabled);
   const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
   return LoadEx(szSectionsArray, lType, file, bIgnoreDisabled);
 }
@@ -60,6 +61,7 @@ std::int32_t clsCustomActions::LoadEx(std::vector<std::wstring>& szSectionsArray
 
 std::int32_t clsCustomActions::Count(std::int32_t lType, const std::wstring& szPath) {
   TraceScope scope(L"Count");
+  Log(L"lType=", lType, L"  szPath=", szPath);
   const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
   const std::vector<std::wstring> ids = file.Ids();
   return static_cast<std::int32_t>(std::count_if(ids.begin(), ids.end(), [&](const auto& id) {
@@ -69,6 +71,7 @@ std::int32_t clsCustomActions::Count(std::int32_t lType, const std::wstring& szP
 
 bool clsCustomActions::Load(const std::wstring& szId, const std::wstring& szPath) {
   TraceScope scope(L"Load");
+  Log(L"szId=", szId, L"  szPath=", szPath);
   return Load(szId, ActionsFile(m_services.files, m_services.codePage, PathOr(szPath)));
 }
 
@@ -100,6 +103,7 @@ void clsCustomActions::Write(const std::wstring& szId, const wchar_t* key,
 
 void clsCustomActions::Save(const std::wstring& szPath) {
   TraceScope scope(L"Save");
+  Log(L"szPath=", szPath);
   Delete(m_szId, szPath);  // so that the keys stand in this order whatever was there
   const auto write = [&](const wchar_t* key, const std::wstring& value) {
     Write(m_szId, key, value, szPath);
@@ -119,6 +123,7 @@ void clsCustomActions::Save(const std::wstring& szPath) {
 
 void clsCustomActions::Delete(const std::wstring& szId, const std::wstring& szPath) {
   TraceScope scope(L"Delete");
+  Log(L"szId=", szId, L"  szPath=", szPath);
   const std::wstring& path = PathOr(szPath);
   if (IsFullPath(path)) m_services.profiles.Write(path, OneLine(szId), {}, {});
 }
@@ -126,12 +131,14 @@ void clsCustomActions::Delete(const std::wstring& szId, const std::wstring& szPa
 void clsCustomActions::Resequence(const std::vector<std::wstring>& szIds,
                                   const std::wstring& szPath) {
   TraceScope scope(L"Resequence");
+  Log(L"szPath=", szPath);
   for (std::size_t i = 1; i < szIds.size(); ++i)
     Write(szIds[i], L"Order", std::to_wstring(i), szPath);
 }
 
 WindowHandle clsCustomActions::MatchWindow(WindowHandle hWnd, const std::wstring& szPath) {
   TraceScope scope(L"MatchWindow");
+  Log(L"hWnd=", Hex(hWnd), L"  szPath=", szPath);
   const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
   std::vector<std::wstring> ids;
   if (LoadEx(ids, TypeWindow, file, true) == 0) return WindowHandle::None;

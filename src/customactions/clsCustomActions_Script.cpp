@@ -58,6 +58,7 @@ void clsCustomActions::BreakdownActions(clsCollection& steps, bool& bSuccess) {
 
 void clsCustomActions::SendActions(const std::wstring& szItem) {
   TraceScope scope(L"SendActions");
+  Log(L"szItem=", szItem);
   const LocalTime now = m_services.clock.Now();
   clsCollection steps;
   bool success = false;
@@ -96,6 +97,7 @@ bool clsCustomActions::PlayStep(const clsCollection& step, const std::wstring& s
 std::wstring clsCustomActions::BuildActionString(const std::wstring& szItem,
                                                  const std::wstring& szSelection) {
   TraceScope scope(L"BuildActionString");
+  Log(L"szItem=", szItem, L"  szSelection=", szSelection);
   const LocalTime now = m_services.clock.Now();
   clsCollection steps;
   bool success = false;

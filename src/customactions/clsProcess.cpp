@@ -12,6 +12,8 @@ clsProcess::Strategy clsProcess::GetPlatform() {
 }
 
 std::uint32_t clsProcess::GetProcessIdViaHwnd(WindowHandle hWnd) {
+  TraceScope scope(L"GetProcessIdViaHwnd");
+  Log(L"hWnd=", Hex(hWnd));
   return m_processes.OwnerOf(hWnd).process;
 }
 
@@ -35,6 +37,7 @@ std::optional<Processes::Module> clsProcess::FindModule(std::uint32_t lProcessId
 bool clsProcess::GetNamesViaId(std::uint32_t lProcessId, std::wstring& szExeName,
                                std::wstring& szExePath) {
   TraceScope scope(L"GetNamesViaId");
+  Log(L"lProcessId=", Hex(static_cast<std::int32_t>(lProcessId)));
   switch (GetPlatform()) {
     case Strategy::ToolHelp:
       for (const Processes::Entry& entry : m_processes.ProcessSnapshot()) {
@@ -81,6 +84,7 @@ std::int32_t clsProcess::GetExeList(std::vector<std::wstring>& szExes) {
 
 bool clsProcess::CloseProcess(std::uint32_t lProcessId) {
   TraceScope scope(L"CloseProcess");
+  Log(L"lProcessId=", Hex(static_cast<std::int32_t>(lProcessId)));
   const std::vector<std::uint32_t> threads = m_processes.ThreadSnapshot(lProcessId);
   for (const std::uint32_t thread : threads) m_processes.PostQuit(thread);
   return !threads.empty();
@@ -98,6 +102,8 @@ std::int32_t clsProcess::GetProcesses(std::vector<std::uint32_t>& lProcessIds) {
 
 void GetWindowClassAndCaption(Windows& windows, WindowHandle hWnd, std::wstring& szClass,
                               std::wstring& szCaption) {
+  TraceScope scope(L"GetWindowClassAndCaption");
+  Log(L"hWnd=", Hex(hWnd));
   szClass = windows.ClassName(hWnd);
   szCaption = windows.Caption(hWnd);
 }

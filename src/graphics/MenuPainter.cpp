@@ -45,7 +45,6 @@ void MenuPainter::Measure(MeasureItem& item, const std::wstring& text) {
 void MenuPainter::Draw(const DrawItem& item, const std::wstring& caption, BitmapHandle picture) {
   const Rect area = WithinLimits(item.rect);
   const Selected font(m_gdi, item.context, Font());
-  Log(L"DrawInfo.itemState=", Hex(static_cast<std::int32_t>(item.state)));
   DrawCaption(item, area, caption, picture != BitmapHandle::None);
   if (picture != BitmapHandle::None) DrawPicture(item, area, picture);
 }

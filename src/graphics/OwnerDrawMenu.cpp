@@ -170,9 +170,11 @@ void OwnerDrawMenu::Measure(MeasureItem& item) {
 }
 
 void OwnerDrawMenu::Draw(const DrawItem& item) {
+  Log(L"DrawInfo.itemState=", Hex(static_cast<std::int32_t>(item.state)));
+  const BitmapHandle picture = m_lookup.OwnerDrawMenu_HasBitmap(item.id);
   std::wstring caption = m_lookup.OwnerDrawMenu_GetCaption(item.id);
   if (m_fileNames.contains(item.id)) caption = DoubleAmpersands(caption);
-  m_painter.Draw(item, caption, m_lookup.OwnerDrawMenu_HasBitmap(item.id));
+  m_painter.Draw(item, caption, picture);
 }
 
 }  // namespace orvane

@@ -179,11 +179,7 @@ std::wstring clsOptions::Reg_Save(const SettingsServices& services, std::wstring
     if (!debugSettingsOnly) WriteSettings(*open, *this, {Use::LoadAndSave, Use::SaveOnly});
   }
   if (debugSettingsOnly) {
-    // As good as a new trace: nothing else of it is ever changed.
-    if (const ThreadState* thread = ThreadState::Current()) {
-      thread->debug->Terminate();
-      thread->debug->ShowErrors(true);
-    }
+    if (const ThreadState* thread = ThreadState::Current()) thread->debug->Renew();
     ProcessSettings(services, false, true);
   }
   return key;
@@ -197,6 +193,8 @@ void clsOptions::ProcessSettings(const SettingsServices& services, bool debugOnl
   if (m_bDebugEnable) {
     if (showDebugWarning)
       services.boxes.Show(DebugWarning, g_szAppTitle, MessageBoxes::Icon::Exclamation);
+    // A file that the thread's trace holds open, since another handler began it, cannot be removed.
+    thread->debug->Terminate();
     services.files.Remove(m_szDebugOutput);
     thread->debug->Initialize(m_szDebugOutput, m_lDebugFlags);
     LogMachine(services.system);

@@ -18,18 +18,25 @@ class Error : public std::exception {
   static constexpr std::int32_t TypeMismatch = 13;
   static constexpr std::int32_t Internal = 51;
 
-  Error(std::int32_t number, std::wstring description, std::wstring source = {})
-      : m_number(number), m_description(std::move(description)), m_source(std::move(source)) {}
+  /// `osError` is the system's own code, 0 when it has none.
+  Error(std::int32_t number, std::wstring description, std::wstring source = {},
+        std::uint32_t osError = 0)
+      : m_number(number),
+        m_description(std::move(description)),
+        m_source(std::move(source)),
+        m_osError(osError) {}
 
   std::int32_t Number() const { return m_number; }
   const std::wstring& Description() const { return m_description; }
   const std::wstring& Source() const { return m_source; }
+  std::uint32_t OsError() const { return m_osError; }
   const char* what() const noexcept override { return "orvane::Error"; }
 
  private:
   std::int32_t m_number;
   std::wstring m_description;
   std::wstring m_source;
+  std::uint32_t m_osError;
 };
 
 /// The thread's last raised error; number 0 is none.

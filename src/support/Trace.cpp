@@ -26,20 +26,21 @@ void LogLine(const std::wstring& line) {
   if (clsTrace* trace = ActiveDebugTrace()) trace->Output(line, 0);
 }
 
-TraceScope::TraceScope(std::wstring_view operation) noexcept : m_trace(ActiveDebugTrace()) {
-  if (!m_trace) return;
+TraceScope::TraceScope(std::wstring_view operation) noexcept {
+  clsTrace* trace = ActiveDebugTrace();
+  if (!trace) return;
   try {
-    m_trace->Push(std::wstring(operation));
+    trace->Push(std::wstring(operation));
   } catch (...) {
-    m_trace = nullptr;
   }
 }
 
 TraceScope::~TraceScope() {
-  // The operation may have ended the trace it began with.
-  if (!m_trace || m_trace != ActiveDebugTrace()) return;
+  // The operation may have switched the trace on or off.
+  clsTrace* trace = ActiveDebugTrace();
+  if (!trace) return;
   try {
-    m_trace->Pop(m_checkError);
+    trace->Pop(m_checkError);
   } catch (...) {
   }
 }

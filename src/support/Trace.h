@@ -83,7 +83,6 @@ class TraceScope {
   void CheckErrorAtExit() { m_checkError = true; }
 
  private:
-  clsTrace* m_trace;
   bool m_checkError = false;
 };
 

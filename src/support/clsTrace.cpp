@@ -85,6 +85,13 @@ void clsTrace::Terminate() {
   m_bInitialised = false;
 }
 
+void clsTrace::Renew() {
+  Terminate();
+  m_oSocket.reset();
+  m_alTimer = {};
+  m_bShowErrors = true;
+}
+
 void clsTrace::Output(const std::wstring& text, std::int32_t flags) {
   if (!m_bInitialised) return;
   if (m_lFlags & FlagAutoCommit) OpenOutputFile(true);
@@ -162,6 +169,7 @@ void clsTrace::WriteToFile(const std::wstring& line) {
 }
 
 void clsTrace::Connect() {
+  m_oSocket.reset();
   if (m_lInternetPort < 0 || m_lInternetPort > std::numeric_limits<std::uint16_t>::max()) return;
   m_oSocket = m_tcp.Connect(m_szInternetAddress, static_cast<std::uint16_t>(m_lInternetPort));
   if (m_oSocket) Send(std::wstring(L"0 0 ") + g_szAppTitle);

@@ -56,6 +56,8 @@ class clsTrace {
 
   bool Initialize(const std::wstring& file, std::int32_t flags);
   void Terminate();
+  /// Ends it, and forgets its connection, its timers and that errors are not to be shown.
+  void Renew();
   void Output(const std::wstring& text, std::int32_t flags);
   /// One line as the file gets it.
   std::wstring FormatLine(const std::wstring& text, std::int32_t flags) const;

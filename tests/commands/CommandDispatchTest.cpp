@@ -109,6 +109,7 @@ TEST_F(Dispatch, FirstEntryTogglesDebuggingWhenTheMenuHasThatEntry) {
   for (const std::string& line : Scene::Effects()) {
     if (line.starts_with("RegSet")) {
       EXPECT_NE(line.find("name=Debug"), std::string::npos) << line;
+      EXPECT_EQ(line.find("kind=D "), std::string::npos) << line;
     }
   }
   Invoke(0);

@@ -14,12 +14,6 @@ namespace {
 using test::EffectLines;
 using Lines = std::vector<std::string>;
 
-memory::Windows::Window Taskbar() {
-  memory::Windows::Window window;
-  window.className = L"Shell_TrayWnd";
-  return window;
-}
-
 class Opening : public testing::Test {
  protected:
   Opening() { ThreadState::SetCurrent(&state); }
@@ -135,16 +129,6 @@ TEST_F(Opening, WarningsOfAFailedStart) {
     WarnOfPendingError(desktop.boxes, L"C:\\x");
     EXPECT_EQ(EffectLines(desktop.effects), row.shown) << row.error.number;
   }
-}
-
-TEST_F(Opening, TaskbarGetsItsCommand) {
-  EXPECT_FALSE(PostTrayCommand(desktop.windows, 420));
-  EXPECT_TRUE(desktop.effects.All().empty());
-  const WindowHandle taskbar = desktop.windows.Add(Taskbar());
-  EXPECT_TRUE(PostTrayCommand(desktop.windows, 420));
-  EXPECT_EQ(EffectLines(desktop.effects),
-            (Lines{"PostMessage window=" + std::to_string(ToNumber(taskbar)) +
-                   " message=273 wParam=420 lParam=0"}));
 }
 
 }  // namespace

@@ -114,17 +114,5 @@ TEST_F(SelectionTask, CancellingProducesNothing) {
   EXPECT_EQ(Run(true), Lines{});
 }
 
-TEST_F(SelectionTask, HundredThousandNames) {
-  FileNames names;
-  for (int i = 0; i < 100'000; ++i) names.Add(L"C:\\Many\\file" + std::to_wstring(i) + L".txt");
-  selection = std::make_shared<memory::DataObject>(names);
-  item.m_szSelection_Filter = L"*.log,*7.txt";
-  item.m_szSelection_FileSuffix = L"\\n";
-  item.m_szSelection_File = L"C:\\Lists\\list.txt";
-  ExecuteSelectionTask(Context(), WindowHandle::None, item, false, false);
-  EXPECT_EQ(desktop.files.Content(L"C:\\Lists\\list.txt")->substr(0, 36),
-            "C:\\Many\\file7.txt\r\nC:\\Many\\file17.tx");
-}
-
 }  // namespace
 }  // namespace orvane

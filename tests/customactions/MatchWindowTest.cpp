@@ -105,7 +105,7 @@ TEST_F(MatchWindowTest, PlaysTheEnabledWindowActionOfLowestOrder) {
 
 TEST_F(MatchWindowTest, SurvivesWindowsThatVanish) {
   GiveFile(Action("a", "Caption=Save\r\nCaptionMatch=1"));
-  for (int questions = 0; questions < 4; ++questions) {
+  for (int questions = 0; questions < 3; ++questions) {
     const WindowHandle frame = AddWindow(L"Frame", L"Save");
     const WindowHandle child = AddWindow(L"Child", L"x", frame);
     desktop.windows.Look(child)->questionsLeft = questions;
