@@ -1,9 +1,11 @@
 // Formats and escapes. Whatever the format, it is refused with one of its errors or gives a text of
 // bounded length; the escapes are compared with a plain reading of them.
 
+#include <array>
 #include <cctype>
 #include <cstdint>
 #include <cstdlib>
+#include <numeric>
 #include <string>
 
 #include "support/Error.h"
@@ -68,17 +70,25 @@ orvane::clsSprintf::Value ValueOf(std::uint8_t kind) {
 
 }  // namespace
 
+/// Every byte is the character of its number.
+orvane::CodePage Plain() {
+  std::array<wchar_t, 256> characters;
+  std::iota(characters.begin(), characters.end(), L'\0');
+  return orvane::CodePage(characters);
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size > 1000) return 0;
+  static const orvane::CodePage page = Plain();
   std::vector<orvane::clsSprintf::Value> values;
   std::size_t at = 0;
   for (; at < size && (data[at] == 'S' || data[at] == 'I' || data[at] == 'D'); ++at)
     values.push_back(ValueOf(data[at]));
   const std::wstring text(data + at, data + size);
 
-  if (orvane::clsSprintf::TreatBackSlash(text) != Treated(text)) std::abort();
+  if (orvane::clsSprintf::TreatBackSlash(text, page) != Treated(text)) std::abort();
   try {
-    const std::wstring result = orvane::clsSprintf::Sprintf(text, values);
+    const std::wstring result = orvane::clsSprintf::Sprintf(text, values, page);
     if (result.size() > 2 * text.size() + values.size() * 70'000) std::abort();
   } catch (const orvane::Error& error) {
     const std::int32_t number = error.Number();

@@ -149,12 +149,23 @@ std::wstring clsOrvaneDataTools::GetMenuCaption(const clsOrvaneData& item, bool&
   return trim ? TrimCaption(std::move(caption), m_options.m_lShellMaxMenuText) : caption;
 }
 
+namespace {
+
+/// A cut text without the first half of a character that it ends in.
+std::wstring_view WithoutHalfPair(std::wstring_view text) {
+  const bool isHalf = !text.empty() && text.back() >= 0xD800 && text.back() < 0xDC00;
+  return text.substr(0, text.size() - isHalf);
+}
+
+}  // namespace
+
 std::wstring clsOrvaneDataTools::TrimCaption(std::wstring caption, std::int32_t maximum) {
   std::size_t prefix = 0;
   if (caption.starts_with(L'&')) prefix = caption.find(L' ') + 1;  // 0 without a blank
   const std::wstring_view rest = std::wstring_view(caption).substr(prefix);
   if (maximum <= 0 || rest.size() <= static_cast<std::size_t>(maximum)) return caption;
-  const std::wstring_view kept = Trim(rest.substr(0, static_cast<std::size_t>(maximum)));
+  const std::wstring_view kept =
+      Trim(WithoutHalfPair(rest.substr(0, static_cast<std::size_t>(maximum))));
   return caption.substr(0, prefix).append(kept).append(L"...");
 }
 

@@ -37,12 +37,10 @@ std::int32_t ReadBits(RegistryKey& key, const std::wstring& name, std::uint32_t 
   return 0;
 }
 
-std::int32_t WriteBits(RegistryKey& key, const std::wstring& name, std::uint32_t type,
-                       std::size_t size, std::uint32_t bits) {
-  RegistryValue value{type, {}};
-  for (; value.data.size() < size; bits >>= 8)
-    value.data.push_back(static_cast<std::byte>(bits & 0xFF));
-  return key.Write(name, value);
+Bytes BytesOf(std::uint32_t bits, std::size_t size) {
+  Bytes bytes;
+  for (; bytes.size() < size; bits >>= 8) bytes.push_back(static_cast<std::byte>(bits & 0xFF));
+  return bytes;
 }
 
 std::int32_t ReadBinaryFlag(RegistryKey& key, const std::wstring& name, bool& value) {
@@ -53,7 +51,7 @@ std::int32_t ReadBinaryFlag(RegistryKey& key, const std::wstring& name, bool& va
 }
 
 std::int32_t WriteBinaryFlag(RegistryKey& key, const std::wstring& name, bool value) {
-  return WriteBits(key, name, RegistryValue::Binary, 2, value ? 0xFFFF : 0);
+  return key.Write(name, {RegistryValue::Binary, BytesOf(value ? 0xFFFF : 0, 2)});
 }
 
 }  // namespace
@@ -88,11 +86,11 @@ std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, const std::w
 }
 
 std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, bool value) {
-  return WriteBits(key, name, RegistryValue::Number, 4, value);
+  return key.Write(name, {RegistryValue::Number, BytesOf(value, 4), true});
 }
 
 std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, std::int32_t value) {
-  return WriteBits(key, name, RegistryValue::Number, 4, static_cast<std::uint32_t>(value));
+  return key.Write(name, {RegistryValue::Number, BytesOf(static_cast<std::uint32_t>(value), 4)});
 }
 
 namespace {

@@ -18,6 +18,7 @@ struct RegistryValue {
 
   std::uint32_t type = 0;
   std::vector<std::byte> data;
+  bool isFlag = false;  // a Number that was written as yes or no; not stored
 };
 
 /// An open registry key; closed with the object. Every method answers 0 or the Win32 error code. A

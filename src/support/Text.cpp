@@ -1,34 +1,55 @@
 #include "support/Text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane {
 
+namespace {
+
+/// Capitals, every `step` of them, and how far behind each its small letter stands.
+struct Capitals {
+  int first;
+  int last;
+  int step;
+  int distance;
+};
+
+// The letters of the Windows code pages and their alphabets' relatives, in order. 0x130 has no
+// single small form.
+constexpr Capitals Rows[] = {
+    {0xC0, 0xD6, 1, 32},     {0xD8, 0xDE, 1, 32},     {0x100, 0x12E, 2, 1},
+    {0x132, 0x136, 2, 1},    {0x139, 0x147, 2, 1},    {0x14A, 0x176, 2, 1},
+    {0x178, 0x178, 1, -121}, {0x179, 0x17D, 2, 1},    {0x1A0, 0x1A4, 2, 1},
+    {0x1AF, 0x1AF, 1, 1},    {0x1CD, 0x1DB, 2, 1},    {0x1DE, 0x1EE, 2, 1},
+    {0x1F8, 0x21E, 2, 1},    {0x222, 0x232, 2, 1},    {0x386, 0x386, 1, 38},
+    {0x388, 0x38A, 1, 37},   {0x38C, 0x38C, 1, 64},   {0x38E, 0x38F, 1, 63},
+    {0x391, 0x3A1, 1, 32},   {0x3A3, 0x3AB, 1, 32},   {0x400, 0x40F, 1, 80},
+    {0x410, 0x42F, 1, 32},   {0x460, 0x480, 2, 1},    {0x48A, 0x4BE, 2, 1},
+    {0x4C0, 0x4C0, 1, 15},   {0x4C1, 0x4CD, 2, 1},    {0x4D0, 0x52E, 2, 1},
+    {0x531, 0x556, 1, 48},   {0x1E00, 0x1E94, 2, 1},  {0x1EA0, 0x1EFE, 2, 1},
+    {0x2160, 0x216F, 1, 16}, {0xFF21, 0xFF3A, 1, 32},
+};
+
+bool Holds(const Capitals& row, int c) {
+  return c >= row.first && c <= row.last && (c - row.first) % row.step == 0;
+}
+
+}  // namespace
+
 wchar_t LowerCase(wchar_t c) {
-  const auto within = [c](int first, int last) {
-    return static_cast<int>(c) >= first && static_cast<int>(c) <= last;
-  };
-  if (within('A', 'Z') || (within(0xC0, 0xDE) && c != 0xD7)) return static_cast<wchar_t>(c + 32);
-  if (static_cast<unsigned>(c) < 0x100) return c;
-  // Latin Extended: capital and small letters take turns; 0x130 has no single small form.
-  if ((within(0x100, 0x137) || within(0x14A, 0x177)) && c % 2 == 0 && c != 0x130)
-    return static_cast<wchar_t>(c + 1);
-  if ((within(0x139, 0x148) || within(0x179, 0x17E)) && c % 2 == 1)
-    return static_cast<wchar_t>(c + 1);
-  if (c == 0x178) return 0xFF;
-  if (within(0x391, 0x3AB) && c != 0x3A2) return static_cast<wchar_t>(c + 32);  // Greek
-  if (within(0x410, 0x42F)) return static_cast<wchar_t>(c + 32);                // Cyrillic
-  if (within(0x400, 0x40F)) return static_cast<wchar_t>(c + 80);
-  return c;
+  if (c >= L'A' && c <= L'Z') return static_cast<wchar_t>(c + 32);
+  if (c < 0x80) return c;
+  const auto row = std::ranges::lower_bound(Rows, static_cast<int>(c), {}, &Capitals::last);
+  const bool isCapital = row != std::end(Rows) && Holds(*row, c);
+  return isCapital ? static_cast<wchar_t>(c + row->distance) : c;
 }
 
 wchar_t UpperCase(wchar_t c) {
-  if (c == 0xFF) return 0x178;
-  for (const int distance : {1, 32, 80}) {
-    if (static_cast<int>(c) <= distance) continue;
-    const auto capital = static_cast<wchar_t>(c - distance);
-    if (LowerCase(capital) == c) return capital;
-  }
+  if (c >= L'a' && c <= L'z') return static_cast<wchar_t>(c - 32);
+  if (c < 0x80) return c;
+  for (const Capitals& row : Rows)
+    if (Holds(row, c - row.distance)) return static_cast<wchar_t>(c - row.distance);
   return c;
 }
 

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <iterator>
 #include <limits>
+#include <string>
+#include <system_error>
 
 #include "support/Error.h"
 #include "support/Number.h"
@@ -76,7 +79,21 @@ std::int32_t ToInteger(const clsSprintf::Value& value) {
   return static_cast<std::int32_t>(rounded);
 }
 
+/// Digits with or without a fraction, blanks around them.
+double ParseDecimal(std::wstring_view text) {
+  std::string digits;
+  for (const wchar_t c : Trim(text)) digits += c < 128 ? static_cast<char>(c) : '?';
+  double number = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [rest, error] = std::from_chars(digits.data(), end, number, std::chars_format::fixed);
+  if (error == std::errc::result_out_of_range) throw Error(Error::Overflow, L"Overflow");
+  if (error != std::errc() || rest != end || !std::isfinite(number))
+    throw Error(Error::TypeMismatch, L"Type mismatch");
+  return number;
+}
+
 double ToFloat(const clsSprintf::Value& value) {
+  if (const auto* text = std::get_if<std::wstring>(&value)) return ParseDecimal(*text);
   const auto* number = std::get_if<double>(&value);
   return number ? *number : ToInteger(value);
 }
@@ -168,7 +185,8 @@ constexpr Escape Escapes[] = {{L'a', L"\a"}, {L'b', L"\b"}, {L'f', L"\f"}, {L'n'
 
 }  // namespace
 
-std::wstring clsSprintf::Sprintf(const std::wstring& format, const std::vector<Value>& values) {
+std::wstring clsSprintf::Sprintf(const std::wstring& format, const std::vector<Value>& values,
+                                 const CodePage& codePage) {
   const std::size_t expected = CountConversions(format);
   if (expected != values.size()) {
     throw Error(CountError, L"Mismatch of parameters for string " + format + L".  Expected " +
@@ -189,7 +207,7 @@ std::wstring clsSprintf::Sprintf(const std::wstring& format, const std::vector<V
                             conversion.type, conversion.upper, *value++);
     position = found + conversion.length;
   }
-  return TreatBackSlash(result.append(format, position));
+  return TreatBackSlash(result.append(format, position), codePage);
 }
 
 std::wstring clsSprintf::BuildFormat(std::wstring_view conversion, std::int32_t type, bool upper,
@@ -214,7 +232,7 @@ std::wstring clsSprintf::BuildFormat(std::wstring_view conversion, std::int32_t 
   }
 }
 
-std::wstring clsSprintf::TreatBackSlash(std::wstring_view text) {
+std::wstring clsSprintf::TreatBackSlash(std::wstring_view text, const CodePage& codePage) {
   std::wstring result;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] != L'\\') {
@@ -225,7 +243,8 @@ std::wstring clsSprintf::TreatBackSlash(std::wstring_view text) {
     const int code = text[i] == L'x' ? HexPair(text.substr(i + 1)) : -1;
     const auto* escape = std::ranges::find(Escapes, text[i], &Escape::letter);
     if (code >= 0) {
-      result += static_cast<wchar_t>(code);
+      const auto byte = static_cast<std::byte>(code);
+      result += codePage.Decode({&byte, 1});
       i += 2;
     } else if (escape != std::end(Escapes)) {
       result += escape->result;

@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "support/CodePage.h"
+
 namespace orvane {
 
 /// Formats values after a pattern in the manner of printf, and turns backslash escapes into their
@@ -25,15 +27,16 @@ class clsSprintf {
   /// flags "-", "+", "0", " ", "#", a width and a precision. Escapes in the result are replaced,
   /// those in the values too. Error 450 when there are more or fewer values than conversions, 93
   /// for a conversion that does not exist or end, 13 or 6 for a value that cannot be converted.
-  static std::wstring Sprintf(const std::wstring& format, const std::vector<Value>& values);
+  static std::wstring Sprintf(const std::wstring& format, const std::vector<Value>& values,
+                              const CodePage& codePage);
 
   /// One conversion, from its "%" to its letter. Error 6 when width or precision exceed 32767.
   static std::wstring BuildFormat(std::wstring_view conversion, std::int32_t type, bool upper,
                                   const Value& value);
 
-  /// \\ \a \b \f \t \v as in C, \n is CR LF, \r is LF, \x and two hexadecimal digits the character
-  /// of that code. Any other backslash is taken out.
-  static std::wstring TreatBackSlash(std::wstring_view text);
+  /// \\ \a \b \f \t \v as in C, \n is CR LF, \r is LF, \x and two hexadecimal digits the code
+  /// page's character of that code. Any other backslash is taken out.
+  static std::wstring TreatBackSlash(std::wstring_view text, const CodePage& codePage);
 };
 
 }  // namespace orvane

@@ -243,13 +243,5 @@ TEST(clsOptions, TimingStartsANewFile) {
             "    Timing session started 01/01/2024 09:05:07\r\n");
 }
 
-TEST(clsOptions, ShowFlags) {
-  clsOptions options;
-  EXPECT_FALSE(options.ShowFlag_IsInSubMenu());
-  EXPECT_TRUE(options.ShowFlag_IsOpen());
-  EXPECT_TRUE(options.ShowFlag_IsTaskManager());
-  EXPECT_FALSE(options.ShowFlag_IsDesktop());
-}
-
 }  // namespace
 }  // namespace orvane

@@ -80,17 +80,6 @@ TEST(clsOrvaneData, SpecialFolderNumberIsTheLocationAsText) {
   EXPECT_EQ(item.m_szFolder_Location, L"36");
 }
 
-TEST(clsOrvaneData, ResetEmptiesARecord) {
-  Data item;
-  item.m_lType = Data::TypeFile;
-  item.Caption(L"x");
-  item.m_oBitmap = std::make_shared<clsCollection>();
-  item.Reset();
-  EXPECT_TRUE(item.IsTypeRoot());
-  EXPECT_TRUE(item.m_szFile_Caption.empty());
-  EXPECT_EQ(item.m_oBitmap, nullptr);
-}
-
 TEST(FieldText, BehavesAsATextOfAnyContent) {
   const std::wstring zeros(L"a\0b", 3);
   FieldText text(zeros);

@@ -113,16 +113,6 @@ TEST_F(NetworkTraceTest, GreetingAndRawLines) {
   EXPECT_EQ("0 0 Orvane - Orvane Shell Extension", m_listener.Read());
 }
 
-TEST_F(NetworkTraceTest, FileAndNetwork) {
-  m_trace.InternetPort(m_listener.Port());
-  m_trace.Initialize(L"C:\\Logs\\x", clsTrace::FlagInternet | clsTrace::FlagAutoCommit);
-  m_listener.Accept();
-  m_trace.Output(L"x", clsTrace::FlagNoTime);
-  EXPECT_EQ("    x\r\n", Log());
-  m_listener.Read();
-  EXPECT_EQ("1 16 x", m_listener.Read());
-}
-
 TEST_F(NetworkTraceTest, NobodyListens) {
   const std::wstring port = m_listener.Port();
   m_listener.Close();
@@ -140,14 +130,6 @@ TEST_F(NetworkTraceTest, NobodyListens) {
   }
   EXPECT_TRUE(m_desktop.effects.All().empty() ||
               m_desktop.effects.All().back().call != "MessageBox");
-}
-
-TEST_F(NetworkTraceTest, ListenerGoesAway) {
-  m_trace.InternetPort(m_listener.Port());
-  m_trace.Initialize(L"", clsTrace::FlagInternet);
-  m_listener.Accept();
-  m_listener.HangUp();
-  for (int i = 0; i < 100; ++i) m_trace.Output(L"x", 0);  // no signal, no exception
 }
 
 TEST_F(NetworkTraceTest, ListenerStopsReading) {

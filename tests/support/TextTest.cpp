@@ -19,6 +19,9 @@ std::vector<std::byte> Bytes(std::initializer_list<int> values) {
 TEST(Text, Case) {
   EXPECT_EQ(L"az09_\x00E4\x00FF\x0151\x03C9\x0436\x0451",
             LowerCase(L"AZ09_\x00C4\x0178\x0150\x03A9\x0416\x0401"));
+  // Greek with accents, Cyrillic beyond Russian, Armenian, Vietnamese, full width.
+  EXPECT_EQ(L"\x03AC\x03CE\x0491\x0561\x1EA1\xFF41",
+            LowerCase(L"\x0386\x038F\x0490\x0531\x1EA0\xFF21"));
   // Neither the multiplication sign nor the sharp s have another case.
   EXPECT_EQ(L"\x00D7\x00DF\x00F7", LowerCase(L"\x00D7\x00DF\x00F7"));
   EXPECT_EQ(L"\x00D7\x00DF\x00F7", UpperCase(L"\x00D7\x00DF\x00F7"));

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/memory/Windows1252.h"
 #include "support/Error.h"
 
 namespace orvane {
 namespace {
+
+CodePage Page() {
+  return CodePage(memory::Windows1252());
+}
 
 using Values = std::vector<clsSprintf::Value>;
 
@@ -29,12 +34,12 @@ TEST(clsSprintf, Formats) {
       {L"%f %.2f %8.1f|%-8.1f|", {1.5, 2.675, -3.25, 3.25}, L"1.500000 2.67     -3.2|3.2     |"},
       {L"%e %E %g %G", {12345.678, 0.5, 1e-10, 1e20}, L"1.234568e+04 5.000000E-01 1e-10 1E+20"},
       // Values are converted to the kind that is asked for.
-      {L"%d %d %s %s %f", {L" 12 ", 2.5, 7, 0.5, 3}, L"12 2 7 0.5 3.000000"},
+      {L"%d %d %s %s %f %g", {L" 12 ", 2.5, 7, 0.5, 3, L" -2.5 "}, L"12 2 7 0.5 3.000000 -2.5"},
       // Escapes, those in the values too.
       {L"a\\tb%s", {L"\\n"}, L"a\tb\r\n"},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(row.text, clsSprintf::Sprintf(row.format, row.values)) << row.format;
+    EXPECT_EQ(row.text, clsSprintf::Sprintf(row.format, row.values, Page())) << row.format;
 }
 
 TEST(clsSprintf, Errors) {
@@ -59,7 +64,7 @@ TEST(clsSprintf, Errors) {
   };
   for (const auto& row : rows) {
     try {
-      clsSprintf::Sprintf(row.format, row.values);
+      clsSprintf::Sprintf(row.format, row.values, Page());
       ADD_FAILURE() << row.format;
     } catch (const Error& error) {
       EXPECT_EQ(row.number, error.Number()) << row.format;
@@ -78,13 +83,13 @@ TEST(clsSprintf, BackSlashes) {
       {L"1\\n2\\r3", L"1\r\n2\n3"},
       {L"C:\\\\new", L"C:\\new"},
       {L"\\\\\\n", L"\\\r\n"},
-      {L"\\x41\\x6a\\xE4\\x00.", std::wstring(L"Aj\x00E4\0.", 5)},
+      {L"\\x41\\x6a\\x80\\x00.", std::wstring(L"Aj\x20AC\0.", 5)},
       {L"\\x4", L"x4"},
       {L"\\xg1", L"xg1"},
       {L"\\q\\\"\\", L"q\""},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(row.treated, clsSprintf::TreatBackSlash(row.text)) << row.text;
+    EXPECT_EQ(row.treated, clsSprintf::TreatBackSlash(row.text, Page())) << row.text;
 }
 
 }  // namespace

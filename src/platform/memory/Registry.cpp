@@ -47,14 +47,16 @@ std::wstring HexDigits(const std::vector<std::byte>& bytes) {
   return text;
 }
 
-/// The value as the settings' kinds see it: "D" a number, "S" a text, "B" a 16-bit boolean, or the
-/// digits of its bytes when it has another length.
+/// The value as the settings' kinds see it: "D" a number, "BOOL" one that is a flag, "S" a text,
+/// "B" a 16-bit boolean, or the digits of its bytes when it has another length.
 Effect SetEffect(const std::wstring& key, const std::wstring& name, const RegistryValue& value) {
   std::wstring kind = L"S";
   Effect::Value shown = TextOf(value);
   if (value.type == RegistryValue::Number) {
-    kind = L"D";
-    shown = static_cast<std::int64_t>(static_cast<std::int32_t>(NumberOf(value).value_or(0)));
+    const auto number = static_cast<std::int32_t>(NumberOf(value).value_or(0));
+    kind = value.isFlag ? L"BOOL" : L"D";
+    shown = std::int64_t{number};
+    if (value.isFlag) shown = number != 0;
   } else if (value.type == RegistryValue::Binary) {
     kind = L"B";
     if (value.data.size() == 2) {
