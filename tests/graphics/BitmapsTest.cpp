@@ -160,11 +160,5 @@ TEST_F(MemoryBitmaps, MissingResourceHasNoNode) {
   DeleteMenuBitmaps(m_gdi, bitmaps);
 }
 
-TEST_F(MemoryBitmaps, RecolouredResource) {
-  const UniqueBitmap bitmap(m_gdi, ReplaceBitmapColour(m_gdi, 101, Mask, Blue));
-  EXPECT_EQ(m_gdi.Pixel(bitmap.get(), {0, 0}), Blue);
-  EXPECT_EQ(ReplaceBitmapColour(m_gdi, 1, Mask, Blue), BitmapHandle::None);
-}
-
 }  // namespace
 }  // namespace orvane::test

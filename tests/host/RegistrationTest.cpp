@@ -129,12 +129,5 @@ TEST(Registration, RefusesAnUnknownInstallOption) {
   EXPECT_EQ(Library().Install(true, L"everybody"), E_INVALIDARG);
 }
 
-TEST(Registration, NamesTheClassByItsProgId) {
-  const Apartment apartment;
-  CLSID clsid{};
-  ASSERT_EQ(CLSIDFromProgID(L"Orvane.ContextMenuHandler", &clsid), S_OK);
-  EXPECT_EQ(clsid, ClsidContextMenuHandler);
-}
-
 }  // namespace
 }  // namespace orvane::host
