@@ -111,9 +111,9 @@ void clsOrvaneDataTools::ReadData(DefinitionFile& file, clsOrvaneData& item) con
 std::wstring clsOrvaneDataTools::CreateHistoryMRU(const clsOrvaneData& item) const {
   TraceScope scope(L"CreateHistoryMRU");
   const FieldText& place = item.IsTypeCustomAction() ? item.m_szAction_Actions : item.Location();
-  const std::wstring entry = m_debug.EncryptStringAscii(std::to_wstring(item.m_lType) + L"," +
-                                                        std::to_wstring(item.m_lOptions) + L",\"" +
-                                                        place + L"\",\"" + item.Caption() + L"\"");
+  std::wstring entry = m_debug.EncryptStringAscii(std::to_wstring(item.m_lType) + L"," +
+                                                  std::to_wstring(item.m_lOptions) + L",\"" +
+                                                  place + L"\",\"" + item.Caption() + L"\"");
   Log(L"rv=", entry);
   return entry;
 }

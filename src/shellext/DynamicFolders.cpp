@@ -87,7 +87,7 @@ void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
     if (isFolder) key.insert(key.begin(), L'\t');
     auto node = m_writer.AddNode(std::move(record));
     node->m_lKey = m_state.ids.Take();
-    sorted.Add(std::move(key), 0, std::move(node));
+    sorted.Add(key, 0, std::move(node));
   }
 }
 

@@ -152,7 +152,8 @@ std::wstring FileNode::MakeShortName(const std::wstring& name) {
   for (;;) {
     const unsigned number = ++m_shortNumbers[shortStem + shortExtension];
     const std::wstring tail = L"~" + std::to_wstring(number);
-    const std::wstring result = shortStem.substr(0, 8 - tail.size()) + tail + shortExtension;
+    std::wstring result = shortStem.substr(0, 8 - tail.size());
+    result.append(tail).append(shortExtension);
     if (!m_index.contains(LowerCase(result))) return result;
   }
 }

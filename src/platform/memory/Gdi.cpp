@@ -277,7 +277,8 @@ std::optional<Colour> Gdi::Pixel(BitmapHandle handle, Point at) const {
   if (found == m_objects.end()) return std::nullopt;
   auto bitmap = std::get_if<GdiBitmap>(&found->second);
   if (!bitmap || !bitmap->Holds(at.x, at.y)) return std::nullopt;
-  return bitmap->pixels[static_cast<std::size_t>(at.y * bitmap->shape.width + at.x)];
+  const auto row = static_cast<std::size_t>(at.y) * static_cast<std::size_t>(bitmap->shape.width);
+  return bitmap->pixels[row + static_cast<std::size_t>(at.x)];
 }
 
 void Gdi::SetPixel(BitmapHandle handle, Point at, Colour colour) {
