@@ -94,7 +94,10 @@ class Typist {
     const int key = event.kind == KeyEvent::Kind::Character ? VK_PACKET : event.code;
     const ULONGLONG sent = GetTickCount64();
     for (int turn = 0; m_input.IsShared() && GetTickCount64() - sent < SwallowedAfter; ++turn) {
-      if (IsTaken(key, event.up)) return m_idle = 0, true;
+      if (IsTaken(key, event.up)) {
+        if (!event.up) m_idle = 0;  // a key that never went down looks released at once
+        return true;
+      }
       Sleep(turn < 10 ? 0 : 1);
     }
     if (!IsWaitingForInput()) return false;
