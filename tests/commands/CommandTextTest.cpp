@@ -2,50 +2,32 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <string>
 
 #include "platform/memory/Windows1252.h"
 
 namespace orvane {
 namespace {
 
-constexpr char Untouched = '\x7E';
-constexpr char16_t UntouchedUnit = 0x7E7E;
-
-/// What `size` of a larger buffer hold after the copy; the rest must be as it was.
-std::string Ansi(std::wstring_view text, std::size_t size) {
-  const CodePage codePage(memory::Windows1252());
-  std::vector<char> buffer(size + 4, Untouched);
-  CopyBounded(text, codePage, std::span(buffer).first(size));
-  for (std::size_t i = size; i < buffer.size(); ++i) EXPECT_EQ(buffer[i], Untouched);
-  return std::string(buffer.data(), size);
-}
-
-std::u16string Wide(std::wstring_view text, std::size_t size) {
-  std::vector<char16_t> buffer(size + 4, UntouchedUnit);
-  CopyBounded(text, std::span(buffer).first(size));
-  for (std::size_t i = size; i < buffer.size(); ++i) EXPECT_EQ(buffer[i], UntouchedUnit);
-  return std::u16string(buffer.data());
+/// A buffer of five after the copy into its first `size` characters.
+template <class Text, class... CodePages>
+Text Buffer(std::wstring_view text, std::size_t size, const CodePages&... codePage) {
+  Text buffer(5, '~');
+  CopyBounded(text, codePage..., std::span(buffer).first(size));
+  return buffer;
 }
 
 TEST(CommandText, FillsTheBufferAndNotAByteMore) {
   using namespace std::string_literals;
-  EXPECT_EQ(Ansi(L"Item3", 0), "");
-  EXPECT_EQ(Ansi(L"Item3", 1), "\0"s);
-  EXPECT_EQ(Ansi(L"Item3", 4), "Ite\0"s);
-  EXPECT_EQ(Ansi(L"Item3", 6), "Item3\0"s);
-  EXPECT_EQ(Ansi(L"\x20AC\x4E00", 3), "\x80?\0"s);
-  EXPECT_EQ(Ansi(L"", 2), "\0~"s);
-  EXPECT_EQ(Wide(L"Item3", 1), u"");
-  EXPECT_EQ(Wide(L"Item3", 4), u"Ite");
-  EXPECT_EQ(Wide(L"Item3", 6), u"Item3");
-  CopyBounded(L"Item3", std::span<char16_t>());
-}
-
-TEST(CommandText, SplitsNoPairOfSurrogates) {
-  EXPECT_EQ(Wide(L"a\U0001F600", 4), u"a\U0001F600");
-  EXPECT_EQ(Wide(L"a\U0001F600", 3), u"a");
-  EXPECT_EQ(Wide(L"a\U0001F600", 2), u"a");
+  const CodePage codePage(memory::Windows1252());
+  EXPECT_EQ(Buffer<std::string>(L"Item", 0, codePage), "~~~~~");
+  EXPECT_EQ(Buffer<std::string>(L"Item", 1, codePage), "\0~~~~"s);
+  EXPECT_EQ(Buffer<std::string>(L"Item", 4, codePage), "Ite\0~"s);
+  EXPECT_EQ(Buffer<std::string>(L"\x20AC\x4E00", 5, codePage), "\x80?\0~~"s);
+  EXPECT_EQ(Buffer<std::u16string>(L"Item", 0), u"~~~~~");
+  EXPECT_EQ(Buffer<std::u16string>(L"Item", 4), u"Ite\0~"s);
+  EXPECT_EQ(Buffer<std::u16string>(L"a\U0001F600", 4), u"a\U0001F600\0~"s);
+  EXPECT_EQ(Buffer<std::u16string>(L"a\U0001F600", 3).substr(0, 2), u"a\0"s) << "half a pair";
 }
 
 }  // namespace

@@ -1,106 +1,83 @@
 #include "commands/CopyOrMove.h"
 
-#include <gtest/gtest.h>
-
-#include "EffectText.h"
+#include "Scene.h"
 #include "commands/Browser.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
 #include "support/Error.h"
 
-namespace orvane {
+namespace orvane::test {
 namespace {
 
-using Lines = std::vector<std::string>;
+const std::string Copied =
+    "SHFileOperation func=copy from=C:\\one|C:\\two words|C:\\three to=C:\\Backup flags=64";
+const std::string NoSuchFolder = Warning("Destination folder does not exist!");
 
-const std::string NoSuchFolder =
-    "MessageBox title=Orvane - Orvane Shell Extension text=Destination folder does not exist! "
-    "icon=exclamation buttons=ok";
-
-class CopyOrMove : public testing::Test {
+class CopyOrMove : public testing::Test, protected Scene {
  protected:
   CopyOrMove() {
-    list.Path(L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\");
-    list.Load(7);
     desktop.files.AddFolder(L"C:\\Backup");
     desktop.files.AddFolder(L"D:\\Other Place");
     desktop.files.AddFile(L"C:\\a.txt");
+    Select({L"C:\\one", L"C:\\two words", L"C:\\three"});
   }
 
   frmCopyTo::Services Services() {
-    return {desktop.dialogs, desktop.files, desktop.shell, desktop.boxes, list, true};
+    return {desktop.dialogs, desktop.files, desktop.shell, desktop.boxes, copyTo, true};
   }
 
-  /// The effects of the command, registry writes left out, after these answers.
-  Lines Run(bool copy, const std::wstring& destination, std::vector<std::wstring> answers) {
-    desktop.effects.Clear();
+  /// The effects of the command after these answers; the destination is asked for when empty.
+  Lines Run(bool copy, std::vector<std::wstring> answers, const std::wstring& destination = L"") {
     for (auto& answer : answers) desktop.answers.Add(std::move(answer));
-    CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None, &selection, copy,
+    CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None, selection.get(), copy,
                         destination);
-    Lines lines = test::EffectLines(desktop.effects);
-    std::erase_if(lines, [](const std::string& line) { return line.starts_with("RegSet"); });
-    return lines;
+    return Effects("RegSet");
   }
-
-  memory::Desktop desktop;
-  clsMRU list{desktop.registry};
-  memory::DataObject selection{L"C:\\one", L"C:\\two words", L"C:\\three"};
 };
-
-constexpr const char* Copied =
-    "SHFileOperation func=copy from=C:\\one|C:\\two words|C:\\three to=C:\\Backup flags=64";
 
 TEST_F(CopyOrMove, DialogStartsEmptyAndRemembersTheDestination) {
   frmCopyTo dialog(Services());
-  EXPECT_EQ(dialog.Title(), L"Orvane - Move To");
   EXPECT_EQ(dialog.InitialDestination(), L"");
   ASSERT_EQ(dialog.Slots().size(), 7u);
   EXPECT_EQ(dialog.Slots()[6].caption, L"7.");
   EXPECT_FALSE(dialog.Slots()[0].used);
 
-  EXPECT_EQ(Run(true, L"", {L"C:\\Backup"}), (Lines{Copied}));
-  EXPECT_EQ(Run(false, L"", {L"D:\\Other Place"}),
+  EXPECT_EQ(Run(true, {L"C:\\Backup"}), (Lines{Copied}));
+  EXPECT_EQ(Run(false, {L"D:\\Other Place"}),
             (Lines{"SHFileOperation func=move from=C:\\one|C:\\two words|C:\\three to=D:\\Other "
                    "Place flags=64"}));
   EXPECT_EQ(dialog.InitialDestination(), L"D:\\Other Place");
   EXPECT_EQ(dialog.Slots()[1].caption, L"2. C:\\Backup");
 
-  EXPECT_EQ(Run(true, L"", {L"mru_2", L"ok"}), (Lines{Copied}));
-  EXPECT_EQ(list.FileCount(), 2);
+  EXPECT_EQ(Run(true, {L"mru_2", L"ok"}), (Lines{Copied}));
   clsMRU stored(desktop.registry);
-  stored.Path(list.Path());
+  stored.Path(copyTo.Path());
   stored.Load(7);
+  EXPECT_EQ(stored.FileCount(), 2);
   EXPECT_EQ(stored.File(1), L"C:\\Backup");
 }
 
 TEST_F(CopyOrMove, DialogStaysOpenUntilTheFolderExists) {
-  EXPECT_EQ(Run(true, L"", {L"C:\\a.txt", L"C:\\gone", L"C:\\Backup"}),
+  EXPECT_EQ(Run(true, {L"C:\\a.txt", L"C:\\gone", L"C:\\Backup"}),
             (Lines{NoSuchFolder, NoSuchFolder, Copied}));
-  EXPECT_EQ(Run(true, L"", {L"C:\\gone", L"cancel"}), (Lines{NoSuchFolder}));
-  EXPECT_EQ(list.FileCount(), 1);
+  EXPECT_EQ(Run(true, {L"C:\\gone", L"cancel"}), (Lines{NoSuchFolder}));
+  EXPECT_EQ(copyTo.FileCount(), 1);
 }
 
 TEST_F(CopyOrMove, BrowsingFillsTheFieldAndCancellingKeepsIt) {
-  EXPECT_EQ(Run(true, L"", {L"browse", L"C:\\Backup", L"ok"}), (Lines{Copied}));
-  EXPECT_EQ(Run(true, L"", {L"browse", L"cancel", L"ok"}), (Lines{Copied}));  // the last one
+  EXPECT_EQ(Run(true, {L"browse", L"C:\\Backup", L"ok"}), (Lines{Copied}));
+  EXPECT_EQ(Run(true, {L"browse", L"cancel", L"ok"}), (Lines{Copied}));  // the last one
   EXPECT_EQ(desktop.dialogs.shownTitles.back(), L"Select the destination folder:");
 }
 
-TEST_F(CopyOrMove, FixedDestinationAsksNobody) {
-  EXPECT_EQ(Run(true, L"C:\\Nowhere", {}),
-            (Lines{"SHFileOperation func=copy from=C:\\one|C:\\two words|C:\\three to=C:\\Nowhere "
-                   "flags=64"}));
-  EXPECT_EQ(list.FileCount(), 0);
+TEST_F(CopyOrMove, FixedDestinationAsksNobodyAndNothingIsDoneWithoutNames) {
+  EXPECT_EQ(Run(true, {}, L"C:\\Backup"), (Lines{Copied}));
+  EXPECT_EQ(copyTo.FileCount(), 0);
   EXPECT_TRUE(desktop.dialogs.shownTitles.empty());
-}
-
-TEST_F(CopyOrMove, SelectionsWithoutNames) {
-  selection = memory::DataObject();
-  EXPECT_EQ(Run(true, L"C:\\Backup", {}), Lines{});
-  selection.failure = memory::DataObject::NoFiles;
-  EXPECT_THROW(Run(true, L"C:\\Backup", {}), Error);
-  CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None, nullptr, true, L"C:\\B");
-  EXPECT_TRUE(desktop.effects.All().empty());
+  Select({});
+  EXPECT_EQ(Run(true, {}, L"C:\\Backup"), Lines{});
+  selection->failure = memory::DataObject::NoFiles;
+  EXPECT_THROW(Run(true, {}, L"C:\\Backup"), Error);
+  selection = nullptr;
+  EXPECT_EQ(Run(true, {}, L"C:\\Backup"), Lines{});
 }
 
 /// A dialog that tells its model the things that the memory dialogs leave out.
@@ -111,7 +88,7 @@ class BrowseDialog : public Dialogs, private BrowseWindow {
 
   Picked Browse(WindowHandle, const ItemIdList&, const std::wstring& title, std::uint32_t flags,
                 BrowseModel& model) override {
-    log += title + L" " + std::to_wstring(flags);
+    log = title + L" " + std::to_wstring(flags);
     model.Opened(*this);
     for (const ItemIdList& item : visited) model.Selected(*this, item);
     if (typesNonsense) log += model.InvalidEntry() ? L" stays" : L" closes";
@@ -139,7 +116,6 @@ TEST_F(CopyOrMove, BrowseDialogsStartAndFollowTheUser) {
   EXPECT_FALSE(browser.BrowseForFile(WindowHandle::None, L"File", L"C:\\Start", 512));
   EXPECT_EQ(dialog.log, L"File 17120 select:C:\\Start expand:C:\\Start status:C:\\Backup");
 
-  dialog.log.clear();
   dialog.visited.clear();
   dialog.typesNonsense = true;
   dialog.picked = {printers, L"Printers"};
@@ -148,9 +124,7 @@ TEST_F(CopyOrMove, BrowseDialogsStartAndFollowTheUser) {
             L"C:\\Start");
   EXPECT_EQ(name, L"untouched");
   EXPECT_EQ(dialog.log, L"Folder 117 select:C:\\Start stays");
-  EXPECT_EQ(test::EffectLines(desktop.effects),
-            (Lines{"MessageBox title=Orvane - Orvane Shell Extension text=Invalid entry "
-                   "specified! icon=exclamation buttons=ok"}));
+  EXPECT_EQ(Effects(), (Lines{Warning("Invalid entry specified!")}));
 
   dialog.picked = {backup, L"Backup"};
   EXPECT_EQ(browser.BrowseForFolder(WindowHandle::None, L"Folder", L"", &name), L"C:\\Backup");
@@ -158,4 +132,4 @@ TEST_F(CopyOrMove, BrowseDialogsStartAndFollowTheUser) {
 }
 
 }  // namespace
-}  // namespace orvane
+}  // namespace orvane::test

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "EffectText.h"
 #include "commands/CommandContext.h"
 #include "customactions/clsProcess.h"
 #include "platform/memory/DataObject.h"
@@ -14,15 +16,47 @@
 
 namespace orvane::test {
 
+using Data = clsOrvaneData;
+using Lines = std::vector<std::string>;
+using Trouble = memory::FileSystem::Trouble;
+
+/// A text that may be printed: characters beyond ASCII as their number.
+inline std::string Printable(const std::wstring& text) {
+  std::string printable;
+  for (const wchar_t character : text) {
+    if (character >= 32 && character < 127)
+      printable += static_cast<char>(character);
+    else
+      printable.append("<").append(std::to_string(static_cast<std::uint32_t>(character))) += '>';
+  }
+  return printable;
+}
+
+inline std::string ValueText(const memory::Effect::Value& value) {
+  if (const auto* text = std::get_if<std::wstring>(&value)) return Printable(*text);
+  if (const auto* number = std::get_if<std::int64_t>(&value)) return std::to_string(*number);
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
+  std::string list;
+  for (const auto& name : std::get<std::vector<std::wstring>>(value))
+    list.append(list.empty() ? "" : "|").append(Printable(name));
+  return list;
+}
+
+/// A message box as an effect line.
+inline std::string Warning(const std::string& text) {
+  return "MessageBox title=Orvane - Orvane Shell Extension text=" + text +
+         " icon=exclamation buttons=ok";
+}
+
 /// A handler's state on a memory desktop, as a command finds it.
 class Scene {
  public:
   Scene() {
     ThreadState::SetCurrent(&state);
     options.m_szPath = L"Software\\Tarnwick\\Orvane\\";
-    history.Path(L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\");
-    quickAccess.Path(L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\");
-    copyTo.Path(L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\");
+    history.Path(options.m_szPath + L"ContextMenu\\HistoryMRU\\");
+    quickAccess.Path(options.m_szPath + L"ContextMenu\\QuickAccessMRU\\");
+    copyTo.Path(options.m_szPath + L"ContextMenu\\CopyTo\\");
     history.Load(5);
     quickAccess.Load(3);
     copyTo.Load(7);
@@ -37,10 +71,10 @@ class Scene {
   }
 
   /// A record in the command table, at the next offset.
-  std::shared_ptr<clsOrvaneData> Add(std::int32_t type, std::int32_t lOptions = 0) {
-    auto record = std::make_shared<clsOrvaneData>();
+  std::shared_ptr<Data> Add(std::int32_t type, const std::wstring& location = {}) {
+    auto record = std::make_shared<Data>();
     record->m_lType = type;
-    record->m_lOptions = lOptions;
+    record->Location(location);
     items.Add(L"", First + items.Count(), record);
     return record;
   }
@@ -50,18 +84,23 @@ class Scene {
   }
 
   WindowHandle AddWindow(const std::wstring& className, WindowHandle parent = WindowHandle::None) {
-    memory::Windows::Window window;
-    window.className = className;
-    window.parent = parent;
-    return desktop.windows.Add(window);
+    return desktop.windows.Add({.parent = parent, .className = className});
   }
 
-  /// The effects so far, messages to windows only when asked for.
-  std::vector<std::string> Effects(bool withMessages = false) {
-    std::vector<std::string> lines = EffectLines(desktop.effects);
-    if (!withMessages) {
-      std::erase_if(lines, [](const std::string& line) { return line.starts_with("SendMessage"); });
+  /// The effects since the last look, a line each: the call and those of its fields that say
+  /// something. Calls of the named kind are left out.
+  Lines Effects(const std::string& without = "SendMessage") {
+    Lines lines;
+    for (const memory::Effect& effect : desktop.effects.All()) {
+      if (effect.call == without) continue;
+      std::string line = effect.call;
+      for (const auto& [name, value] : effect.fields) {
+        const std::string text = ValueText(value);
+        if (!text.empty()) line.append(" ").append(name).append("=").append(text);
+      }
+      lines.push_back(line);
     }
+    desktop.effects.Clear();
     return lines;
   }
 
@@ -69,7 +108,7 @@ class Scene {
   std::vector<std::wstring> ItemsOf(const clsMRU& list) {
     std::vector<std::wstring> entries;
     for (std::int32_t i = 1; i <= list.FileCount(); ++i) {
-      clsOrvaneData item;
+      Data item;
       tools.BreakdownHistoryMRU(list.File(i), item);
       entries.push_back(std::to_wstring(item.m_lType) + L" " + item.Location() + L" " +
                         item.Caption());
@@ -108,11 +147,5 @@ class Scene {
                     codePage);
   }
 };
-
-/// A message box as an effect line.
-inline std::string Warning(const std::string& text) {
-  return "MessageBox title=Orvane - Orvane Shell Extension text=" + text +
-         " icon=exclamation buttons=ok";
-}
 
 }  // namespace orvane::test

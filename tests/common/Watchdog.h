@@ -20,25 +20,14 @@ class Watchdog : public testing::EmptyTestEventListener {
 
   void OnTestStart(const testing::TestInfo& test) override {
     std::snprintf(m_name, sizeof m_name, "%s.%s", test.test_suite_name(), test.name());
-    m_started = Now();
+    m_seconds = 0;
   }
-  void OnTestEnd(const testing::TestInfo&) override { m_started = 0; }
+  void OnTestEnd(const testing::TestInfo&) override { m_seconds = -1; }
 
  private:
-  static constexpr long long Limit = 60;  // seconds
-
-  static long long Now() {
-    return std::chrono::duration_cast<std::chrono::seconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-               .count() +
-           1;
-  }
-
   [[noreturn]] static void Watch() {
-    for (;;) {
-      std::this_thread::sleep_for(std::chrono::seconds(1));
-      const long long started = m_started;
-      if (started == 0 || Now() - started < Limit) continue;
+    for (;; std::this_thread::sleep_for(std::chrono::seconds(1))) {
+      if (m_seconds < 0 || ++m_seconds <= 60) continue;
       std::fprintf(stderr, "watchdog: %s hangs\n", m_name);
       std::fflush(stderr);
       std::_Exit(3);
@@ -46,7 +35,7 @@ class Watchdog : public testing::EmptyTestEventListener {
   }
 
   // Not the object's own: the thread outlives it at the program's end.
-  static inline std::atomic<long long> m_started = 0;
+  static inline std::atomic<int> m_seconds = -1;  // of the running test, or -1 between two
   static inline char m_name[256] = "";
 };
 

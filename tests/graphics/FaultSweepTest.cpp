@@ -1,36 +1,59 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-
-#include "graphics/DrawEverything.h"
+#include "graphics/MenuDesk.h"
+#include "graphics/clsPaintEffects.h"
 
 namespace orvane::test {
 namespace {
 
-TEST(GraphicsFaultSweep, NothingIsLeftBehindWhicheverCallFails) {
-  std::size_t calls = 0;
-  {
-    MenuDesk desk;
-    DrawEverything(desk);
-    calls = desk.desktop.faults.Calls();
+void DrawEverything(MenuDesk& desk) {
+  desk.desktop.files.AddFile(L"C:\\a.txt");
+  desk.desktop.files.AddFile(L"C:\\b.exe");
+  desk.Load();
+  for (bool ownerDraw : {true, false}) {
+    desk.options.m_bShellOwnerDraw = ownerDraw;
+    desk.AddFile(1, L"C:\\a.txt");
+    desk.AddFile(2, L"C:\\b.exe");
+    desk.Add(desk.menu, 3, L"&Task", 8, {}, Data::TypeSelectionTask);
   }
-  ASSERT_GT(calls, 200u);
-  for (std::size_t n = 1; n <= calls; ++n) {
-    memory::Desktop* desktop = nullptr;
-    auto desk = std::make_unique<MenuDesk>();
-    desktop = &desk->desktop;
-    desktop->faults.FailCall(n);
-    DrawEverything(*desk);
-    EXPECT_EQ(desktop->icons.Live(), 0u) << "call " << n;
-    EXPECT_FALSE(desktop->icons.wronglyFreed) << "call " << n;
+  Gdi& gdi = desk.gdi;
+  const UniqueScreen screen(gdi, gdi.OpenScreen());
+  const UniqueContext context(gdi, gdi.CreateContext());
+  const UniqueBitmap bitmap(gdi, gdi.CreateCompatible(screen.get(), {100, 30}));
+  const Selected selected(gdi, context.get(), bitmap.get());
+  for (const std::int32_t dpi : {96, 192}) {
+    desk.OpenAt(dpi);
+    for (std::int32_t id : {1, 2, 3, 4}) {
+      desk.Measure(id);
+      desk.Draw(id, 0, context.get(), {0, 0, 100, 20});
+      desk.Draw(id, DrawItem::Selected, context.get(), {0, 0, 100, 20});
+    }
+  }
+  clsPaintEffects effects(gdi);
+  effects.PaintTransparentDC(context.get(), 0, 0, 20, 20, context.get(), 5, 5, 0);
+  const UniqueBitmap picture(gdi, gdi.CreateCompatible(screen.get(), {10, 10}));
+  effects.PaintTransparentStdPic(context.get(), 0, 0, 10, 10, {StdPicture::Bitmap, picture.get()},
+                                 0, 0, 0);
+}
+
+TEST(GraphicsFaultSweep, NothingIsLeftBehindWhicheverCallFails) {
+  std::size_t calls = 200;
+  for (std::size_t n = 0; n <= calls; ++n) {
+    SCOPED_TRACE(n);
+    MenuDesk desk;
+    memory::Desktop& desktop = desk.desktop;
+    desktop.faults.FailCall(n);
+    DrawEverything(desk);
+    if (n == 0) calls = desktop.faults.Calls();
+    EXPECT_EQ(desktop.icons.Live(), 0u);
+    EXPECT_FALSE(desktop.icons.wronglyFreed);
+    EXPECT_EQ(desktop.gdi.Mistakes(), std::vector<std::string>());
     // What is left belongs to the store and the menu font.
     std::size_t owned = 1;
-    for (const auto& node : desk->bitmaps) owned += (node->m_lData != 0) + (node->m_lData2 != 0);
-    EXPECT_LE(desktop->gdi.Live(), owned) << "call " << n;
-    EXPECT_EQ(desktop->gdi.Mistakes(), std::vector<std::string>()) << "call " << n;
-    DeleteMenuBitmaps(desktop->gdi, desk->bitmaps);
-    EXPECT_LE(desktop->gdi.Live(), 1u) << "call " << n;
+    for (const auto& node : desk.bitmaps) owned += (node->m_lData != 0) + (node->m_lData2 != 0);
+    EXPECT_LE(desktop.gdi.Live(), owned);
+    DeleteMenuBitmaps(desktop.gdi, desk.bitmaps);
+    EXPECT_LE(desktop.gdi.Live(), 1u);
   }
+  EXPECT_GT(calls, 200u);
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
-#include <memory>
 #include <string>
 
 #include "graphics/MenuBitmaps.h"
@@ -10,14 +11,11 @@
 
 namespace orvane::test {
 
-/// An owner-drawn menu on the memory desktop, with the records that a handler would keep. Drawing
-/// and icons may be the real ones.
-class MenuDesk : private MenuItemLookup {
- public:
-  explicit MenuDesk(Gdi* realGdi = nullptr, ShellIcons* realIcons = nullptr)
-      : gdi(realGdi ? *realGdi : desktop.gdi),
-        drawing(options, desktop.menus, gdi, realIcons ? *realIcons : desktop.icons, desktop.files,
-                bitmaps, *this) {
+using Data = clsOrvaneData;
+
+/// An owner-drawn menu on the memory desktop, with the records that a handler would keep.
+struct MenuDesk : private MenuItemLookup {
+  explicit MenuDesk(Gdi* otherGdi = nullptr) : gdi(otherGdi ? *otherGdi : desktop.gdi) {
     options.m_lShellShowIcons = clsOptions::OptionLevel_Medium;
   }
   ~MenuDesk() override {
@@ -26,45 +24,41 @@ class MenuDesk : private MenuItemLookup {
     DeleteMenuBitmaps(gdi, bitmaps);
   }
 
-  void Load() {
+  /// Makes the menus, which the constructor leaves to tests that have calls fail.
+  MenuDesk& Load() {
     menu = desktop.menus.CreatePopup();
     shellMenu = desktop.menus.CreatePopup();
     LoadMenuBitmaps(gdi, bitmaps);
     drawing.ShellMenu(shellMenu);
-  }
-
-  clsOrvaneData& Record(std::int32_t id, std::int32_t type, const std::wstring& caption) {
-    clsOrvaneData& record = records[id];
-    record.m_lType = type;
-    record.Caption(caption);
-    return record;
-  }
-
-  /// A file of the dynamic kind: just listed, named by its caption.
-  bool AddFile(std::int32_t id, const std::wstring& path) {
-    const std::wstring name = path.substr(path.rfind(L'\\') + 1);
-    clsOrvaneData& record = Record(id, clsOrvaneData::TypeFile, name);
-    return drawing.AddMenuWithBitmap({.menu = menu,
-                                      .caption = name,
-                                      .id = id,
-                                      .bitmapKey = OwnerDrawMenu::OwnIcon,
-                                      .iconFile = path,
-                                      .fileName = true,
-                                      .record = &record});
+    return *this;
   }
 
   bool Add(MenuHandle to, std::int32_t id, const std::wstring& caption, std::int32_t key,
-           const std::wstring& iconFile = {}) {
+           const std::wstring& iconFile = {}, std::int32_t type = Data::TypeFile,
+           bool fileName = false) {
+    Data& record = records[id];
+    record.m_lType = type;
+    record.Caption(caption);
     return drawing.AddMenuWithBitmap({.menu = to,
                                       .caption = caption,
                                       .id = id,
                                       .bitmapKey = key,
                                       .iconFile = iconFile,
-                                      .record = &records[id]});
+                                      .fileName = fileName,
+                                      .record = &record});
   }
 
-  /// The menu opens (again), on the screen as it is now.
-  void Open() { drawing.HandleMessage(MenuMessage::InitMenuPopup, 0, 0); }
+  /// A file of the dynamic kind: just listed, named by its caption.
+  bool AddFile(std::int32_t id, const std::wstring& path) {
+    return Add(menu, id, path.substr(path.rfind(L'\\') + 1), OwnerDrawMenu::OwnIcon, path,
+               Data::TypeFile, true);
+  }
+
+  /// The menu opens (again), on a screen of that resolution.
+  void OpenAt(std::int32_t dpi) {
+    desktop.gdi.dpi = dpi;
+    drawing.HandleMessage(MenuMessage::InitMenuPopup, 0, 0);
+  }
 
   MeasureItem Measure(std::int32_t id) {
     MeasureItem item{.id = id};
@@ -78,17 +72,16 @@ class MenuDesk : private MenuItemLookup {
   }
 
   const MenuEntry& Entry(std::size_t position) { return desktop.menus.Entries(menu).at(position); }
-
   BitmapHandle PictureOf(std::int32_t id) { return OwnerDrawMenu_HasBitmap(id); }
 
   memory::Desktop desktop;
   Gdi& gdi;
   clsOptions options;
   clsCollection bitmaps;
-  std::map<std::int32_t, clsOrvaneData> records;
+  std::map<std::int32_t, Data> records;
   MenuHandle menu = MenuHandle::None;
   MenuHandle shellMenu = MenuHandle::None;
-  OwnerDrawMenu drawing;
+  OwnerDrawMenu drawing{options, desktop.menus, gdi, desktop.icons, desktop.files, bitmaps, *this};
 
  private:
   std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) override {

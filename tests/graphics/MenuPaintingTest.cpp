@@ -1,8 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <utility>
-
 #include "common/AnyGdi.h"
 #include "graphics/ColConst.h"
 #include "graphics/MenuDesk.h"
@@ -17,174 +12,139 @@ constexpr std::int32_t WithPicture = 1;
 constexpr std::int32_t Plain = 2;
 constexpr std::int32_t Unknown = 99;
 
-class MenuPaintingTest : public testing::Test {
- protected:
-  MenuPaintingTest() {
-    m_desk.Load();
-    m_desk.Record(WithPicture, clsOrvaneData::TypeCustomAction, L"&Run  ");
-    m_desk.Add(m_desk.menu, WithPicture, L"&Run  ", Action);
-    m_desk.Record(Plain, clsOrvaneData::TypePopupMenu, L"C&&A");
-    m_desk.Add(m_desk.menu, Plain, L"C&&A", 0);
-  }
-
-  Colour System(std::int32_t index) { return m_desk.desktop.gdi.SystemColour(index); }
-  void Paint(Canvas& canvas, std::int32_t id, std::uint32_t state, const Rect& area = Area) {
-    canvas.Clear(Paper);
-    EXPECT_TRUE(m_desk.Draw(id, state, canvas.Context(), area));
-  }
-  /// A colour in which the text alone can be drawn.
-  Colour TellTextBy(std::int32_t index) {
-    return m_desk.desktop.gdi.systemColours[static_cast<std::size_t>(index)] = Rgb(0, 255, 1);
-  }
-
-  MenuDesk m_desk;
-};
-
-TEST_F(MenuPaintingTest, WidthOfTheTextAndAFixedHeight) {
-  const struct {
-    std::int32_t id;
-    std::int32_t width;
-  } rows[] = {{WithPicture, 3 * 8 + 25}, {Plain, 2 * 8 + 25}, {Unknown, 25}};
-  for (const auto& row : rows) {
-    const MeasureItem item = m_desk.Measure(row.id);
-    EXPECT_EQ(item.width, row.width);
-    EXPECT_EQ(item.height, 20);
-  }
+void AddEntries(MenuDesk& desk) {
+  desk.Load();
+  desk.Add(desk.menu, WithPicture, L"&Run  ", Action, {}, Data::TypeCustomAction);
+  desk.Add(desk.menu, Plain, L"C&&A", 0, {}, Data::TypePopupMenu);
 }
 
-TEST_F(MenuPaintingTest, SizesGrowWithTheScreen) {
-  const struct {
-    std::int32_t dpi, height, margin;
-  } rows[] = {{96, 20, 25}, {120, 25, 31}, {144, 30, 38}, {192, 40, 50}, {72, 20, 25}, {0, 20, 25}};
-  for (const auto& row : rows) {
-    m_desk.desktop.gdi.dpi = row.dpi;
-    m_desk.Open();
-    const MeasureItem item = m_desk.Measure(Unknown);
-    EXPECT_EQ(item.height, row.height);
-    EXPECT_EQ(item.width, row.margin);
-  }
-  m_desk.desktop.gdi.dpi = 192;
-  m_desk.Open();
-  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 16 + 50) << "the font grows too";
-}
+using EntryPainting = AnyGdi;
+INSTANTIATE_TEST_SUITE_P(, EntryPainting, EveryGdi(), NameOfGdi);
 
-TEST_F(MenuPaintingTest, TheDesktopsOwnFontComesFirst) {
-  m_desk.desktop.gdi.desktopFont = m_desk.desktop.gdi.AddFont({5, 9});
-  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 5 + 25);
-  m_desk.desktop.gdi.FreeFont(std::exchange(m_desk.desktop.gdi.desktopFont, FontHandle::None));
-  m_desk.Open();
-  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 8 + 25);
-}
-
-TEST_F(MenuPaintingTest, GroundsOfAnEntry) {
+TEST_P(EntryPainting, GroundsAndRaisedPicture) {
+  if (TheGdi().Dpi() != 96) GTEST_SKIP() << "a scaled screen";
   const struct {
-    const char* what;
     std::int32_t id;
     std::uint32_t state;
     std::int32_t ground;
     Rect painted;
-  } rows[] = {
-      {"plain", Plain, 0, ColConst::Menu, {0, 10, 150, 30}},
-      {"plain selected", Plain, DrawItem::Selected, ColConst::Highlight, {0, 10, 150, 30}},
-      {"picture", WithPicture, 0, ColConst::Menu, {0, 10, 150, 30}},
-      {"picture selected", WithPicture, DrawItem::Selected, ColConst::Highlight, {23, 10, 150, 30}},
-  };
+  } rows[] = {{Plain, 0, ColConst::Menu, Area},
+              {Plain, DrawItem::Selected, ColConst::Highlight, Area},
+              {WithPicture, 0, ColConst::Menu, Area},
+              {WithPicture, DrawItem::Selected, ColConst::Highlight, {23, 10, 150, 30}}};
+  MenuDesk desk(&TheGdi());
+  AddEntries(desk);
+  Canvas canvas(TheGdi(), {160, 40});
   for (const auto& row : rows) {
-    Canvas canvas(m_desk.desktop.gdi, {160, 40});
-    Paint(canvas, row.id, row.state);
-    EXPECT_EQ(canvas.BoundsOf(System(row.ground)), row.painted) << row.what;
+    canvas.Clear(Paper);
+    desk.Draw(row.id, row.state, canvas.Context(), Area);
+    EXPECT_EQ(canvas.BoundsOf(TheGdi().SystemColour(row.ground)), row.painted) << row.id;
+    EXPECT_EQ(canvas.Pixel(22, 15) == Paper, row.id == WithPicture) << "between picture and text";
   }
-}
-
-TEST_F(MenuPaintingTest, PictureColumnOfAnEntryWithPicture) {
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  Paint(canvas, WithPicture, 0);
-  EXPECT_EQ(canvas.Pixel(21, 15), System(ColConst::Menu));
-  EXPECT_EQ(canvas.Pixel(22, 15), Paper) << "between picture and text";
-  EXPECT_EQ(canvas.Pixel(23, 15), System(ColConst::Menu));
-  // The picture is a square of 10 pixels in a frame of 3 in the menu's colour.
-  EXPECT_EQ(canvas.BoundsOf(Rgb(0, 64, 107)), (Rect{7, 15, 17, 25}));
-}
-
-TEST_F(MenuPaintingTest, SelectedPictureIsRaised) {
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  Paint(canvas, WithPicture, DrawItem::Selected);
-  const Colour light = System(ColConst::BtnHighlight);
-  const Colour dark = System(ColConst::BtnShadow);
-  EXPECT_EQ(canvas.Pixel(1, 10), light);
-  EXPECT_EQ(canvas.Pixel(1, 29), light);
-  EXPECT_EQ(canvas.Pixel(20, 10), light);
-  EXPECT_EQ(canvas.BoundsOf(dark), (Rect{2, 10, 22, 30}));
+  const Colour light = TheGdi().SystemColour(ColConst::BtnHighlight);
+  const Colour dark = TheGdi().SystemColour(ColConst::BtnShadow);
+  for (const Point& point : {Point{1, 10}, Point{1, 29}, Point{20, 10}})
+    EXPECT_EQ(canvas.Pixel(point.x, point.y), light);
+  EXPECT_EQ(canvas.Pixel(2, 29), dark);
+  EXPECT_EQ(canvas.Pixel(21, 10), dark);
   EXPECT_EQ(canvas.Pixel(21, 29), dark);
   EXPECT_EQ(canvas.Pixel(0, 15), Paper);
 }
 
-TEST_F(MenuPaintingTest, TextColourFollowsTheState) {
+class MenuPainting : public testing::Test {
+ protected:
+  MenuPainting() { AddEntries(m_desk); }
+
+  void Paint(std::int32_t id, std::uint32_t state = 0, const Rect& area = Area) {
+    m_canvas.Clear(Paper);
+    EXPECT_TRUE(m_desk.Draw(id, state, m_canvas.Context(), area));
+  }
+  /// A colour in which the text alone can be drawn.
+  Colour TellTextBy(std::int32_t index) {
+    return m_gdi.systemColours[static_cast<std::size_t>(index)] = Rgb(0, 255, 1);
+  }
+
+  MenuDesk m_desk;
+  memory::Gdi& m_gdi = m_desk.desktop.gdi;
+  Canvas m_canvas{m_gdi, {320, 80}};
+};
+
+TEST_F(MenuPainting, SizesGrowWithTheScreen) {
+  EXPECT_EQ(m_desk.Measure(WithPicture).width, 3 * 8 + 25);
+  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 8 + 25);
+  const struct {
+    std::int32_t dpi, height, margin;
+  } rows[] = {{96, 20, 25}, {144, 30, 38}, {192, 40, 50}, {72, 20, 25}, {0, 20, 25}};
+  for (const auto& row : rows) {
+    m_desk.OpenAt(row.dpi);
+    EXPECT_EQ(m_desk.Measure(Unknown).height, row.height);
+    EXPECT_EQ(m_desk.Measure(Unknown).width, row.margin);
+  }
+  m_desk.OpenAt(192);
+  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 16 + 50) << "the font grows too";
+  Paint(WithPicture, 0, {0, 20, 300, 60});
+  EXPECT_EQ(m_canvas.Pixel(44, 30), Paper) << "between picture and text";
+  EXPECT_EQ(m_canvas.BoundsOf(Rgb(0, 64, 107)), (Rect{14, 30, 34, 50})) << "the picture";
+  m_desk.OpenAt(96);
+  Paint(WithPicture);
+  EXPECT_EQ(m_canvas.BoundsOf(Rgb(0, 64, 107)), (Rect{7, 15, 17, 25}));
+}
+
+TEST_F(MenuPainting, TheDesktopsOwnFontComesFirst) {
+  m_gdi.desktopFont = m_gdi.AddFont({5, 9});
+  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 5 + 25);
+  m_gdi.FreeFont(std::exchange(m_gdi.desktopFont, FontHandle::None));
+  m_desk.OpenAt(96);
+  EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 8 + 25);
+}
+
+TEST_F(MenuPainting, TextColourFollowsTheState) {
   const struct {
     std::uint32_t state;
     std::int32_t colour;
   } rows[] = {{0, ColConst::MenuText},
               {DrawItem::Selected, ColConst::HighlightText},
               {DrawItem::Grayed, ColConst::Scrollbar},
-              {DrawItem::Disabled, ColConst::Scrollbar},
               {DrawItem::Selected | DrawItem::Disabled, ColConst::Scrollbar}};
   for (const auto& row : rows) {
     const Colour text = TellTextBy(row.colour);
-    Canvas canvas(m_desk.desktop.gdi, {160, 40});
-    Paint(canvas, Plain, row.state);
-    const Rect bounds = canvas.BoundsOf(text);
+    Paint(Plain, row.state);
+    const Rect bounds = m_canvas.BoundsOf(text);
     EXPECT_GE(bounds.left, 25) << row.state;
     EXPECT_LE(bounds.right, 25 + 3 * 8) << row.state;
     EXPECT_GE(bounds.top, 13) << row.state;
-    m_desk.desktop.gdi.systemColours = memory::Desktop().gdi.systemColours;
+    m_gdi.systemColours = memory::Desktop().gdi.systemColours;
   }
 }
 
-TEST_F(MenuPaintingTest, AmpersandUnderlinesTheLetter) {
+TEST_F(MenuPainting, AmpersandUnderlinesTheLetterButNotInFileNames) {
+  constexpr int Underline = 10 + 3 + 14;
   const Colour text = TellTextBy(ColConst::MenuText);
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  Paint(canvas, WithPicture, 0);
-  for (int x = 25; x < 33; ++x) EXPECT_EQ(canvas.Pixel(x, 10 + 3 + 14), text);
-  EXPECT_NE(canvas.Pixel(33, 10 + 3 + 14), text);
-}
-
-TEST_F(MenuPaintingTest, FileNamesArePaintedLetterForLetter) {
-  const Colour text = TellTextBy(ColConst::MenuText);
+  Paint(WithPicture);
+  EXPECT_EQ(m_canvas.Pixel(25, Underline), text);
+  EXPECT_EQ(m_canvas.Pixel(32, Underline), text);
+  EXPECT_NE(m_canvas.Pixel(33, Underline), text);
   m_desk.options.m_lShellShowIcons = 0;
   m_desk.AddFile(5, L"C:\\&&&&&&");
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  Paint(canvas, 5, 0);
-  EXPECT_GT(canvas.BoundsOf(text).right, 25 + 5 * 8);
-  EXPECT_NE(canvas.Pixel(26, 10 + 3 + 14), text) << "no underline";
+  Paint(5);
+  EXPECT_GT(m_canvas.BoundsOf(text).right, 25 + 5 * 8);
+  EXPECT_NE(m_canvas.Pixel(26, Underline), text);
 }
 
-TEST_F(MenuPaintingTest, EverythingTwiceAsLargeAt192Dpi) {
-  m_desk.desktop.gdi.dpi = 192;
-  m_desk.Open();
-  Canvas canvas(m_desk.desktop.gdi, {320, 80});
-  Paint(canvas, WithPicture, 0, {0, 20, 300, 60});
-  EXPECT_EQ(canvas.Pixel(43, 30), System(ColConst::Menu));
-  EXPECT_EQ(canvas.Pixel(44, 30), Paper);
-  EXPECT_EQ(canvas.Pixel(46, 30), System(ColConst::Menu));
-  EXPECT_EQ(canvas.BoundsOf(Rgb(0, 64, 107)), (Rect{14, 30, 34, 50}));
-}
-
-TEST_F(MenuPaintingTest, ScreenKeepsItsObjects) {
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  auto& gdi = m_desk.desktop.gdi;
-  gdi.ExchangeTextColour(canvas.Context(), Rgb(5, 6, 7));
-  const std::size_t before = gdi.Live();
+TEST_F(MenuPainting, ScreenKeepsItsObjects) {
+  m_gdi.ExchangeTextColour(m_canvas.Context(), Rgb(5, 6, 7));
+  const std::size_t before = m_gdi.Live();
   m_desk.Measure(Plain);  // the menu font stays for the menu
   for (int i = 0; i < 5; ++i) {
-    m_desk.Draw(WithPicture, DrawItem::Selected, canvas.Context(), Area);
-    m_desk.Draw(Plain, 0, canvas.Context(), Area);
+    m_desk.Draw(WithPicture, DrawItem::Selected, m_canvas.Context(), Area);
+    m_desk.Draw(Plain, 0, m_canvas.Context(), Area);
   }
-  EXPECT_EQ(gdi.Live(), before + 1);
-  EXPECT_EQ(gdi.TextColour(canvas.Context()), Rgb(5, 6, 7));
-  EXPECT_EQ(gdi.Mistakes(), std::vector<std::string>());
+  EXPECT_EQ(m_gdi.Live(), before + 1);
+  EXPECT_EQ(m_gdi.TextColour(m_canvas.Context()), Rgb(5, 6, 7));
+  EXPECT_EQ(m_gdi.Mistakes(), std::vector<std::string>());
 }
 
-TEST_F(MenuPaintingTest, WhatIsNotOurs) {
+TEST_F(MenuPainting, WhatIsNotOurs) {
   MeasureItem item{.id = Plain};
   const auto address = reinterpret_cast<std::intptr_t>(&item);
   EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::MeasureItem, 0, 0));
@@ -193,13 +153,11 @@ TEST_F(MenuPaintingTest, WhatIsNotOurs) {
   EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::InitMenuPopup, 0, address));
   EXPECT_EQ(item.height, 0);
 
-  Canvas canvas(m_desk.desktop.gdi, {160, 40});
-  EXPECT_TRUE(m_desk.Draw(Unknown, 0, canvas.Context(), Area));
-  EXPECT_EQ(canvas.BoundsOf(System(ColConst::Menu)), Area);
+  Paint(Unknown);
+  EXPECT_EQ(m_canvas.BoundsOf(m_gdi.SystemColour(ColConst::Menu)), Area);
   EXPECT_TRUE(m_desk.Draw(WithPicture, DrawItem::Selected, DeviceContext::None, Area));
-  const std::int32_t most = std::numeric_limits<std::int32_t>::max();
-  EXPECT_TRUE(m_desk.Draw(WithPicture, 1, canvas.Context(), {-most - 1, -most, most, most}));
-  EXPECT_TRUE(m_desk.Draw(WithPicture, 1, canvas.Context(), {most, most, -most, -most}));
+  Paint(WithPicture, DrawItem::Selected, {INT32_MIN, -INT32_MAX, INT32_MAX, INT32_MAX});
+  Paint(WithPicture, DrawItem::Selected, {INT32_MAX, INT32_MAX, -INT32_MAX, -INT32_MAX});
 }
 
 }  // namespace

@@ -1,9 +1,3 @@
-#include "graphics/OwnerDrawMenu.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 #include "graphics/MenuDesk.h"
 
 namespace orvane::test {
@@ -36,10 +30,10 @@ TEST_F(OwnerDrawMenuTest, WhichKeysShowAtWhichLevel) {
   for (const auto& row : rows) {
     for (int level = 0; level <= 3; ++level) {
       m_desk.options.m_lShellShowIcons = level;
-      const auto id = static_cast<std::int32_t>(++position);
+      const auto id = static_cast<std::int32_t>(position + 1);
       ASSERT_TRUE(m_desk.Add(m_desk.menu, id, L"entry", row.key));
       const bool shown = level >= row.fromLevel;
-      const MenuEntry& entry = m_desk.Entry(position - 1);
+      const MenuEntry& entry = m_desk.Entry(position++);
       EXPECT_EQ(entry.bitmap, shown ? Stored(row.shown, true) : BitmapHandle::None)
           << "key " << row.key << " level " << level;
       EXPECT_EQ(m_desk.PictureOf(id), shown ? Stored(row.shown, false) : BitmapHandle::None);
@@ -62,6 +56,7 @@ TEST_F(OwnerDrawMenuTest, EntryAsItWasAsked) {
   const MenuHandle submenu = m_desk.desktop.menus.CreatePopup();
   m_desk.options.m_lShellMaxMenuText = 6;
   m_desk.Add(m_desk.menu, 1, L"last", 0);
+  EXPECT_FALSE(m_desk.Add(MenuHandle::None, 2, L"nowhere", 7));
   m_desk.drawing.AddMenuWithBitmap({.menu = m_desk.menu,
                                     .position = 0,
                                     .caption = L"&1 a long caption",
@@ -73,7 +68,6 @@ TEST_F(OwnerDrawMenuTest, EntryAsItWasAsked) {
   EXPECT_EQ(entry.id, 77u);
   EXPECT_EQ(entry.submenu, submenu);
   EXPECT_EQ(m_desk.Entry(1).caption, L"last");
-  EXPECT_FALSE(m_desk.Add(MenuHandle::None, 2, L"nowhere", 7));
 }
 
 TEST_F(OwnerDrawMenuTest, MissingBitmapLeavesTheEntryWithoutPicture) {
@@ -88,7 +82,6 @@ TEST_F(OwnerDrawMenuTest, MissingBitmapLeavesTheEntryWithoutPicture) {
 TEST_F(OwnerDrawMenuTest, FileNamesMarkNoLetter) {
   m_desk.options.m_lShellShowIcons = 0;
   m_desk.AddFile(1, L"C:\\R&D.txt");
-  m_desk.Record(2, clsOrvaneData::TypeFile, L"R&D.txt");
   m_desk.Add(m_desk.menu, 2, L"R&D.txt", 0);
   EXPECT_EQ(m_desk.Entry(0).caption, L"R&&D.txt");
   EXPECT_EQ(m_desk.Entry(1).caption, L"R&D.txt");
@@ -100,56 +93,38 @@ TEST_F(OwnerDrawMenuTest, FileNamesMarkNoLetter) {
   EXPECT_EQ(m_desk.Measure(1).width, 6 * 8 + 25);
 }
 
-class IconTest : public OwnerDrawMenuTest {
- protected:
-  IconTest() {
-    for (const wchar_t* path :
-         {L"C:\\a.txt", L"C:\\b.TXT", L"C:\\c.doc", L"C:\\d.exe", L"C:\\e.exe", L"C:\\README"})
-      m_desk.desktop.files.AddFile(path);
-    m_desk.desktop.files.AddFolder(L"C:\\plain");
-  }
-
-  memory::ShellIcons& Icons() { return m_desk.desktop.icons; }
-  std::int32_t StoredCount() const { return m_desk.bitmaps.Count(); }
-};
-
-TEST_F(IconTest, PicturesOfOwnerDrawnEntriesAreFetchedWhenFirstLookedAt) {
-  m_desk.AddFile(1, L"C:\\a.txt");
-  EXPECT_TRUE(m_desk.Entry(0).ownerDraw);
-  EXPECT_EQ(Icons().finds + Icons().kindFinds + Icons().takes, 0u);
-  const BitmapHandle picture = m_desk.PictureOf(1);
-  EXPECT_NE(picture, BitmapHandle::None);
-  EXPECT_EQ(m_desk.PictureOf(1), picture);
-  EXPECT_EQ(Icons().takes, 1u);
-}
-
-TEST_F(IconTest, NothingIsAskedTwice) {
+TEST_F(OwnerDrawMenuTest, IconsAreFetchedWhenFirstLookedAtAndNothingIsAskedTwice) {
+  memory::ShellIcons& icons = m_desk.desktop.icons;
   std::int32_t id = 0;
   for (const wchar_t* path : {L"C:\\a.txt", L"C:\\b.TXT", L"C:\\c.doc", L"C:\\d.exe", L"C:\\e.exe",
-                              L"C:\\d.exe", L"C:\\README", L"C:\\README"})
+                              L"C:\\d.exe", L"C:\\README", L"C:\\README"}) {
+    m_desk.desktop.files.AddFile(path);
     m_desk.AddFile(++id, path);
+  }
+  EXPECT_EQ(icons.finds + icons.kindFinds + icons.takes, 0u);
   for (int round = 0; round < 2; ++round)
     for (std::int32_t entry = 1; entry <= id; ++entry) m_desk.PictureOf(entry);
-  EXPECT_EQ(Icons().kindFinds, 3u) << ".txt, .doc, none";
-  EXPECT_EQ(Icons().finds, 3u) << "each entry of a program";
-  EXPECT_EQ(Icons().takes, 5u) << "each distinct icon";
-  EXPECT_EQ(StoredCount(), 9 + 5);
+  EXPECT_EQ(icons.kindFinds, 3u) << ".txt, .doc, none";
+  EXPECT_EQ(icons.finds, 3u) << "each entry of a program";
+  EXPECT_EQ(icons.takes, 5u) << "each distinct icon";
+  EXPECT_EQ(m_desk.bitmaps.Count(), 9 + 5);
   EXPECT_EQ(m_desk.PictureOf(1), m_desk.PictureOf(2));
   EXPECT_NE(m_desk.PictureOf(4), m_desk.PictureOf(5));
-  EXPECT_EQ(Icons().Live(), 0u);
+  EXPECT_EQ(icons.Live(), 0u);
 }
 
-TEST_F(IconTest, CheckMarksAreFetchedAtOnce) {
+TEST_F(OwnerDrawMenuTest, CheckMarksAreFetchedAtOnce) {
+  m_desk.desktop.files.AddFile(L"C:\\a.txt");
   m_desk.options.m_bShellOwnerDraw = false;
   for (std::int32_t id = 1; id <= 500; ++id) m_desk.AddFile(id, L"C:\\a.txt");
-  EXPECT_EQ(Icons().takes, 1u);
+  EXPECT_EQ(m_desk.desktop.icons.takes, 1u);
   const auto node = m_desk.records[1].m_oBitmap;
   ASSERT_TRUE(node);
   EXPECT_NE(node->m_lData, node->m_lData2);
   EXPECT_EQ(m_desk.Entry(499).bitmap, ToHandle<BitmapHandle>(node->m_lData));
 }
 
-TEST_F(IconTest, WhoseIconIsWhose) {
+TEST_F(OwnerDrawMenuTest, WhoseIconIsWhose) {
   const std::wstring longPath = L"C:\\" + std::wstring(260, L'x') + L".exe";
   const struct {
     const wchar_t* what;
@@ -158,20 +133,16 @@ TEST_F(IconTest, WhoseIconIsWhose) {
     std::size_t finds, kindFinds;
     bool unknown;
   } rows[] = {
-      {L"missing file", clsOrvaneData::TypeFile, L"C:\\gone.txt", 0, 0, true},
-      {L"no file", clsOrvaneData::TypeFile, L"", 0, 0, true},
-      {L"missing folder", clsOrvaneData::TypeFolder, L"C:\\gone", 0, 0, true},
-      {L"plain folder", clsOrvaneData::TypeFolder, L"C:\\plain", 0, 1, false},
-      {L"folder that may have its own", clsOrvaneData::TypeFolder, L"C:\\own", 1, 0, false},
-      {L"file item that is a folder", clsOrvaneData::TypeFile, L"C:\\plain", 0, 1, false},
-      {L"drive", clsOrvaneData::TypeFolder, L"C:\\", 1, 0, false},
-      {L"name space", clsOrvaneData::TypeFolder, L"::{20D04FE0}", 1, 0, true},
-      {L"program", clsOrvaneData::TypeFile, L"C:\\d.exe", 1, 0, false},
-      {L"program beyond the shell's reach", clsOrvaneData::TypeFile, longPath, 0, 1, false},
-      {L"file on a server", clsOrvaneData::TypeFile, L"\\\\away\\share\\x.exe", 0, 1, false},
-      {L"folder on a server", clsOrvaneData::TypeFolder, L"\\\\away\\share", 0, 1, false},
-      {L"program on a mapped drive", clsOrvaneData::TypeFile, L"Z:\\x.exe", 0, 1, false},
-      {L"mapped drive", clsOrvaneData::TypeFolder, L"Z:\\", 0, 1, false},
+      {L"missing file", Data::TypeFile, L"C:\\gone.txt", 0, 0, true},
+      {L"missing folder", Data::TypeFolder, L"C:\\gone", 0, 0, true},
+      {L"plain folder", Data::TypeFolder, L"C:\\plain", 0, 1, false},
+      {L"folder that may have its own", Data::TypeFolder, L"C:\\own", 1, 0, false},
+      {L"drive", Data::TypeFolder, L"C:\\", 1, 0, false},
+      {L"name space", Data::TypeFolder, L"::{20D04FE0}", 1, 0, true},
+      {L"program", Data::TypeFile, L"C:\\d.exe", 1, 0, false},
+      {L"program beyond the shell's reach", Data::TypeFile, longPath, 0, 1, false},
+      {L"file on a server", Data::TypeFile, L"\\\\away\\share\\x.exe", 0, 1, false},
+      {L"program on a mapped drive", Data::TypeFile, L"Z:\\x.exe", 0, 1, false},
   };
   for (const auto& row : rows) {
     MenuDesk desk;
@@ -182,8 +153,7 @@ TEST_F(IconTest, WhoseIconIsWhose) {
     desk.desktop.files.Stall(L"Z:\\", 30'000);
     desk.Load();
     const std::uint32_t start = desk.desktop.clock.Ticks();
-    desk.Record(1, row.type, L"item");
-    desk.Add(desk.menu, 1, L"item", OwnIcon, row.path);
+    desk.Add(desk.menu, 1, L"item", OwnIcon, row.path, row.type);
     const BitmapHandle picture = desk.PictureOf(1);
     EXPECT_EQ(desk.desktop.icons.finds, row.finds) << row.what;
     EXPECT_EQ(desk.desktop.icons.kindFinds, row.kindFinds) << row.what;
@@ -194,14 +164,12 @@ TEST_F(IconTest, WhoseIconIsWhose) {
   }
 }
 
-TEST_F(IconTest, LargeScreensAskForLargeIcons) {
-  m_desk.desktop.gdi.dpi = 192;
-  m_desk.Open();
+TEST_F(OwnerDrawMenuTest, LargeScreensAskForLargeIcons) {
+  m_desk.desktop.files.AddFile(L"C:\\a.txt");
+  m_desk.OpenAt(192);
   m_desk.AddFile(1, L"C:\\a.txt");
-  const auto shape = m_desk.desktop.gdi.Describe(m_desk.PictureOf(1));
-  ASSERT_TRUE(shape);
-  EXPECT_EQ(shape->width, 32);
-  EXPECT_EQ(Icons().lastSize, 32);
+  EXPECT_EQ(m_desk.desktop.gdi.Describe(m_desk.PictureOf(1)).value().width, 32);
+  EXPECT_EQ(m_desk.desktop.icons.lastSize, 32);
 }
 
 }  // namespace

@@ -8,8 +8,7 @@ namespace {
 constexpr Colour Red = Rgb(255, 0, 0);
 constexpr Colour Paper = Rgb(200, 220, 240);
 
-class QuickGdiTest : public AnyGdi {};
-
+using QuickGdiTest = AnyGdi;
 INSTANTIATE_TEST_SUITE_P(, QuickGdiTest, EveryGdi(), NameOfGdi);
 
 TEST_P(QuickGdiTest, FramesAreLightAndDark) {
@@ -35,11 +34,13 @@ TEST_P(QuickGdiTest, FramesAreLightAndDark) {
   }
 }
 
-TEST_P(QuickGdiTest, PrintsWithoutTouchingTheTarget) {
+TEST_P(QuickGdiTest, PrintsAndDrawsWithoutTouchingTheTargetsState) {
   Gdi& gdi = TheGdi();
   Canvas canvas(gdi, {60, 40});
   canvas.Clear(Paper);
   clsQuickGDI drawing(gdi);
+  EXPECT_EQ(drawing.hPrint(5, 6, L"no target", Red, 55, 38), 0);
+  drawing.DrawRect(0, 0, 10, 10);
   drawing.TargethDC(canvas.Context());
   gdi.ExchangeTextColour(canvas.Context(), Rgb(1, 2, 3));
   EXPECT_GT(drawing.hPrint(5, 6, L"&Open", Red, 55, 38), 0);
@@ -49,27 +50,13 @@ TEST_P(QuickGdiTest, PrintsWithoutTouchingTheTarget) {
   EXPECT_LE(text.right, 55);
   EXPECT_EQ(gdi.TextColour(canvas.Context()), Rgb(1, 2, 3));
   EXPECT_FALSE(gdi.ExchangeTransparency(canvas.Context(), false)) << "opaque again";
-}
 
-TEST_P(QuickGdiTest, RectangleWithTheSelectedPenAndBrush) {
-  Gdi& gdi = TheGdi();
-  Canvas canvas(gdi, {60, 40});
   canvas.Clear(Paper);
-  clsQuickGDI drawing(gdi);
-  drawing.TargethDC(canvas.Context());
   const UniquePen pen(gdi, drawing.GetPen(1, Red));
   const Selected selected(gdi, canvas.Context(), pen.get());
   drawing.DrawRect(2, 3, 12, 13);
   EXPECT_EQ(canvas.BoundsOf(Red), (Rect{2, 3, 12, 13}));
   EXPECT_EQ(canvas.Pixel(5, 5), Rgb(255, 255, 255));
-}
-
-TEST_P(QuickGdiTest, WithoutTargetNothingHappens) {
-  clsQuickGDI drawing(TheGdi());
-  EXPECT_EQ(drawing.TargethDC(), DeviceContext::None);
-  drawing.DrawRect(0, 0, 10, 10);
-  drawing.ThreedBox(0, 0, 10, 10, true);
-  EXPECT_EQ(drawing.hPrint(0, 0, L"text", Red, 50, 50), 0);
 }
 
 }  // namespace

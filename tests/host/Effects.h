@@ -2,52 +2,81 @@
 
 #include <windows.h>
 
-#include <functional>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
-#include <vector>
 
-#include "host/Scene.h"
+#include "host/Library.h"
+#include "support/Utf8.h"
 
 namespace orvane::host {
 
 /// Waits up to ten seconds for the condition, reading this thread's messages meanwhile; false when
 /// it never held.
-bool WaitFor(const std::function<bool()>& condition);
+template <class Condition>
+bool WaitFor(const Condition& condition) {
+  constexpr ULONGLONG Limit = 10'000;
+  const ULONGLONG start = GetTickCount64();
+  while (!condition()) {
+    if (GetTickCount64() - start > Limit) return false;
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    Sleep(10);
+  }
+  return true;
+}
 
-/// Content of the file as bytes, which is waited for; empty when it does not come.
-std::string WaitForFile(const std::wstring& path);
-
-/// The same of a file that a mode of this program wrote.
-std::wstring WaitForRecord(const std::wstring& path);
+/// Content of the file, UTF-8, which is waited for; empty when it does not come.
+inline std::wstring WaitForFile(const std::wstring& path) {
+  // It is there, under its own name, a moment before whoever put it there lets go of it.
+  std::ifstream file;
+  const auto opens = [&] {
+    file.open(std::filesystem::path(path), std::ios::binary);
+    return file.is_open();
+  };
+  if (!WaitFor(opens)) return {};
+  return FromUtf8(std::string(std::istreambuf_iterator<char>(file), {})).value_or(L"(not UTF-8)");
+}
 
 /// The visible window of that class, which is waited for; null when it does not come.
-HWND WaitForWindow(const wchar_t* className, const wchar_t* title = nullptr);
-
-/// Path of this program.
-std::wstring HostPath();
-
-/// The clipboard's text as another process reads it.
-std::wstring ClipboardOfAnotherProcess(const Scene& scene);
-
-/// Presses the keys one after the other and releases them.
-void PressTogether(const std::vector<WORD>& keys);
-
-/// Chooses the entry with the caption, which may lie in a submenu, of a menu that was made with
-/// identifiers from 1; false when there is none.
-bool Choose(const RightClick& click, const std::wstring& caption, HWND window = nullptr);
+inline HWND WaitForWindow(const wchar_t* className, const wchar_t* title = nullptr) {
+  HWND window = nullptr;
+  WaitFor([&] {
+    window = FindWindowW(className, title);
+    return window && IsWindowVisible(window);
+  });
+  return window;
+}
 
 /// Another process of this program; it is gone with the object.
 class HostProcess {
  public:
-  explicit HostProcess(const std::wstring& arguments);
-  ~HostProcess();
+  explicit HostProcess(const std::wstring& arguments) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;  // none: what it prints is not this
+                                             // program's to show
+    std::wstring line = L'"' + HostPath() + L"\" " + arguments;
+    CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                   &m_started);
+  }
+  ~HostProcess() {
+    if (!HasEnded()) TerminateProcess(m_started.hProcess, 0);
+    WaitForSingleObject(m_started.hProcess, 10'000);
+    CloseHandle(m_started.hThread);
+    CloseHandle(m_started.hProcess);
+  }
   HostProcess(const HostProcess&) = delete;
   HostProcess& operator=(const HostProcess&) = delete;
 
-  bool HasEnded() const { return WaitForSingleObject(m_process, 0) == WAIT_OBJECT_0; }
+  bool HasEnded() const { return WaitForSingleObject(m_started.hProcess, 0) == WAIT_OBJECT_0; }
 
  private:
-  HANDLE m_process = nullptr;
+  PROCESS_INFORMATION m_started{};
 };
 
 }  // namespace orvane::host

@@ -11,7 +11,6 @@ struct LeakCount {
   std::size_t heapBlocks = 0;   // exact, over all heaps
 
   static LeakCount Now();
-  bool operator==(const LeakCount&) const = default;
 };
 
 }  // namespace orvane::host

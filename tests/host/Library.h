@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <string>
 
 namespace orvane::host {
@@ -10,8 +11,16 @@ namespace orvane::host {
 inline constexpr CLSID ClsidContextMenuHandler = {
     0x493e3910, 0xbc83, 0x443b, {0x90, 0x17, 0xf5, 0xb5, 0x3d, 0xb5, 0xf5, 0xc4}};
 
+/// Path of this program.
+inline std::wstring HostPath() {
+  wchar_t path[4096];
+  return {path, path + GetModuleFileNameW(nullptr, path, 4096)};
+}
+
 /// Path of orvane.dll, which lies beside this program.
-std::wstring LibraryPath();
+inline std::wstring LibraryPath() {
+  return std::filesystem::path(HostPath()).replace_filename(L"orvane.dll").wstring();
+}
 
 /// orvane.dll loaded by hand, for its plain exports.
 class Library {
@@ -21,15 +30,12 @@ class Library {
   Library(const Library&) = delete;
   Library& operator=(const Library&) = delete;
 
+  HMODULE Module() const { return m_module; }
   template <class Function>
   Function* Export(const char* name) const {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_module, name)));
   }
-
   HRESULT Call(const char* name) const { return Export<HRESULT WINAPI()>(name)(); }
-  HRESULT Install(bool install, const wchar_t* commandLine) const {
-    return Export<HRESULT WINAPI(BOOL, const wchar_t*)>("DllInstall")(install, commandLine);
-  }
 
  private:
   HMODULE m_module;

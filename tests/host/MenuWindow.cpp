@@ -5,9 +5,9 @@
 #include <cstdio>
 
 #include "host/Com.h"
-#include "host/MenuText.h"
 #include "host/Modes.h"
 #include "host/Scene.h"
+#include "support/Utf8.h"
 
 namespace orvane::host {
 namespace {
@@ -23,41 +23,26 @@ struct MenuWindow {
   void RightClicked(HWND window, POINT at);
 };
 
-void AddOwnEntries(HMENU menu) {
-  UINT id = OwnCommands;
-  AppendMenuW(menu, MF_STRING, id++, L"&Open");
-  AppendMenuW(menu, MF_STRING, id++, L"Cu&t");
-  AppendMenuW(menu, MF_STRING, id++, L"&Copy");
-  AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-  AppendMenuW(menu, MF_STRING, id, L"P&roperties");
-}
-
 void Print(const std::wstring& text) {
-  const int size = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, bytes.data(), size, nullptr, nullptr);
-  std::fputs(bytes.c_str(), stdout);
+  std::fputs(ToUtf8(text).c_str(), stdout);
   std::fflush(stdout);
 }
 
 void MenuWindow::RightClicked(HWND window, POINT at) {
   RightClick click(folder, selection.Get());
-  AddOwnEntries(click.menu);
+  for (UINT i = 0; const wchar_t* entry : {L"&Open", L"Cu&t", L"&Copy", L"P&roperties"}) {
+    AppendMenuW(click.menu, MF_STRING, OwnCommands + i++, entry);
+  }
   const HRESULT result = click.handler->QueryContextMenu(click.menu, 1, 1, OwnCommands - 1, 0);
   std::printf("initialized 0x%08lX, identifiers %ld\n",
               static_cast<unsigned long>(click.initialized), static_cast<long>(result));
   open = click.handler.Get();
   const int chosen = TrackPopupMenu(click.menu, TPM_RETURNCMD, at.x, at.y, 0, window, nullptr);
   open = nullptr;
-  Print(MenuText(click.menu));  // with the dynamic folders that were opened
+  Print(click.Text());  // with the dynamic folders that were opened
   std::printf("chosen %d\n", chosen);
   if (chosen > 0 && chosen < static_cast<int>(OwnCommands)) {
-    CMINVOKECOMMANDINFO record{};
-    record.cbSize = sizeof record;
-    record.hwnd = window;
-    record.lpVerb = MAKEINTRESOURCEA(chosen - 1);
-    record.nShow = SW_SHOWNORMAL;
-    click.handler->InvokeCommand(&record);
+    click.Invoke(static_cast<UINT>(chosen), window);
   }
   PostQuitMessage(0);
 }
@@ -104,6 +89,15 @@ HWND CreateHostWindow(MenuWindow& self) {
 
 }  // namespace
 
+int RunMessages() {
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return 0;
+}
+
 int ShowMenu(const std::wstring& folder, const std::vector<std::wstring>& names) {
   const Apartment apartment;
   MenuWindow self{.folder = folder, .selection = names.empty() ? nullptr : Select(folder, names)};
@@ -111,13 +105,8 @@ int ShowMenu(const std::wstring& folder, const std::vector<std::wstring>& names)
   ShowWindow(window, SW_SHOWNORMAL);
   SetForegroundWindow(window);
   UpdateWindow(window);
-  std::printf("ready\n");
-  std::fflush(stdout);
-  MSG message;
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
+  Print(L"ready\n");
+  RunMessages();
   DestroyWindow(window);
   return 0;
 }

@@ -14,17 +14,10 @@ int ShowMenu(const std::wstring& folder, const std::vector<std::wstring>& names)
 /// Times whole right-clicks against a loop of the same platform calls with nothing around them.
 int RunBench();
 
-/// Writes the current folder and then each argument, a line each, as UTF-8.
-int RecordStart(const std::wstring& path, const std::vector<std::wstring>& arguments);
-
-/// Plays the command interpreter: records its start in the file that this variable names.
-int RecordPrompt();
+/// Names the record of a start in the place of the command interpreter.
 inline constexpr wchar_t PromptRecord[] = L"ORVANE_PROMPT_RECORD";
 
-/// Writes the clipboard's text as UTF-8.
-int RecordClipboard(const std::wstring& path);
-
-/// Shows an edit control in a window titled "Orvane Edit", which has the keyboard.
-int ShowEdit();
+/// The program's message loop.
+int RunMessages();
 
 }  // namespace orvane::host

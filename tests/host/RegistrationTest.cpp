@@ -1,132 +1,138 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
 #include <iterator>
 
-#include "host/Com.h"
 #include "host/Library.h"
-#include "host/RegistryTree.h"
 #include "support/Text.h"
 
 namespace orvane::host {
 namespace {
 
 using Lines = std::vector<std::wstring>;
-
-// Names of keys differ in case from system to system: "TypeLib" is "Typelib" on some.
-Lines Folded(Lines lines) {
-  for (std::wstring& line : lines) line = LowerCase(line);
-  std::sort(lines.begin(), lines.end());
-  return lines;
-}
-
-Lines Added(const Lines& before, const Lines& after) {
-  Lines added;
-  std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
-                      std::back_inserter(added));
-  return Folded(std::move(added));
-}
+using DllInstall = HRESULT WINAPI(BOOL, const wchar_t*);
 
 constexpr wchar_t ClassId[] = L"{493E3910-BC83-443B-9017-F5B53DB5F5C4}";
 
-constexpr wchar_t LibraryId[] = L"{2B44F79D-6ECF-4C3A-BA26-36FB70600B70}";
-
-void AddClass(const std::wstring& id, const std::wstring& progId, const std::wstring& description,
-              Lines& lines) {
-  const std::wstring key = L"\\CLSID\\" + id;
-  lines.insert(lines.end(),
-               {key, key + L"@=" + description, key + L"\\InprocServer32",
-                key + L"\\InprocServer32@=" + LibraryPath(),
-                key + L"\\InprocServer32@ThreadingModel=Apartment", key + L"\\ProgID",
-                key + L"\\ProgID@=" + progId, key + L"\\TypeLib", key + L"\\TypeLib@=" + LibraryId,
-                L"\\" + progId, L"\\" + progId + L"@=" + description, L"\\" + progId + L"\\CLSID",
-                L"\\" + progId + L"\\CLSID@=" + id});
+/// A value of a key of the classes; empty without one.
+std::wstring ValueOf(HKEY hive, const std::wstring& key, const wchar_t* name = nullptr) {
+  wchar_t text[MAX_PATH] = L"";
+  DWORD size = sizeof text;
+  RegGetValueW(hive, (L"Software\\Classes\\" + key).c_str(), name, RRF_RT_REG_SZ, nullptr, text,
+               &size);
+  return text;
 }
 
-void AddInterface(const std::wstring& id, const std::wstring& name, Lines& lines) {
-  const std::wstring key = L"\\Interface\\" + id;
-  lines.insert(lines.end(), {key, key + L"@=" + name, key + L"\\ProxyStubClsid32",
-                             key + L"\\ProxyStubClsid32@={00020424-0000-0000-C000-000000000046}",
-                             key + L"\\TypeLib", key + L"\\TypeLib@=" + LibraryId,
-                             key + L"\\TypeLib@Version=1.0"});
+void AddKeys(HKEY hive, const std::wstring& path, const std::wstring& shown, Lines& lines) {
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(hive, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return;
+  lines.push_back(LowerCase(shown));
+  wchar_t name[256];
+  for (DWORD i = 0; RegEnumKeyW(key, i, name, 256) == ERROR_SUCCESS; ++i) {
+    AddKeys(hive, path + L"\\" + name, shown + L"\\" + name, lines);
+  }
+  RegCloseKey(key);
 }
 
-Lines OwnKeys() {
-  const std::wstring key = L"\\TypeLib\\" + std::wstring(LibraryId);
-  const std::wstring version = key + L"\\1.0";
-  Lines lines = {key,
-                 version,
-                 version + L"@=Orvane",
-                 version + L"\\0",
-                 version + L"\\0\\win64",
-                 version + L"\\0\\win64@=" + LibraryPath(),
-                 version + L"\\FLAGS",
-                 version + L"\\FLAGS@=0"};
-  AddClass(ClassId, L"Orvane.ContextMenuHandler", L"Orvane Context Menu", lines);
-  AddClass(L"{7CB72A76-CB0A-4641-BB4B-A0E740F7C33C}", L"Orvane.clsQuickGDI", L"Orvane Quick GDI",
-           lines);
-  AddClass(L"{A828897A-0536-4B1C-A36D-1CBA3F91A7B4}", L"Orvane.clsPaintEffects",
-           L"Orvane Paint Effects", lines);
-  AddInterface(L"{5114ED1B-A365-4A22-B49A-1A7B75F4E9CC}", L"_clsQuickGDI", lines);
-  AddInterface(L"{9BC3AEB9-1C66-41AB-A292-B2BA700A26F4}", L"_clsPaintEffects", lines);
-  AddInterface(L"{5A9D6D27-B2CE-4470-A6D0-1CB474B13702}", L"_ContextMenuHandler", lines);
-  return Folded(std::move(lines));
-}
-
-constexpr wchar_t Classes[] = L"Software\\Classes";
-
-// Without the keys that all classes share: a user may have none of his own yet.
-Lines UserClasses() {
-  Lines lines = RegistryTree(HKEY_CURRENT_USER, Classes);
-  std::erase(lines, L"");
-  for (const wchar_t* shared : {L"\\CLSID", L"\\Interface", L"\\TypeLib"})
-    std::erase(lines, shared);
-  return lines;
-}
-
-// Without the mirror that the system shows to 32-bit programs.
-Lines MachineClasses() {
-  Lines lines = RegistryTree(HKEY_LOCAL_MACHINE, Classes);
-  std::erase_if(lines, [](const std::wstring& line) {
-    return Folded({line}).front().starts_with(L"\\wow6432node");
+/// The keys of all classes of the hive, sorted. In lower case, since names differ from system to
+/// system: "TypeLib" is "Typelib" on some.
+Lines Classes(HKEY hive) {
+  Lines lines;
+  AddKeys(hive, L"Software\\Classes", L"", lines);
+  // Shared by all classes: a user may have none of his own yet.
+  const Lines shared = {L"", L"\\clsid", L"\\interface", L"\\typelib"};
+  std::erase_if(lines, [&](const std::wstring& line) {
+    const bool mirror = line.starts_with(L"\\wow6432node");  // what 32-bit programs see
+    return mirror || std::ranges::find(shared, line) != shared.end();
   });
+  std::ranges::sort(lines);
   return lines;
 }
 
-TEST(Registration, MachineWideWritesAndRemovesExactlyItsOwnKeys) {
+const Lines OwnKeys = {L"\\clsid\\{493e3910-bc83-443b-9017-f5b53db5f5c4}",
+                       L"\\clsid\\{7cb72a76-cb0a-4641-bb4b-a0e740f7c33c}",
+                       L"\\clsid\\{a828897a-0536-4b1c-a36d-1cba3f91a7b4}",
+                       L"\\interface\\{5114ed1b-a365-4a22-b49a-1a7b75f4e9cc}",
+                       L"\\interface\\{5a9d6d27-b2ce-4470-a6d0-1cb474b13702}",
+                       L"\\interface\\{9bc3aeb9-1c66-41ab-a292-b2ba700a26f4}",
+                       L"\\orvane.clspainteffects",
+                       L"\\orvane.clsquickgdi",
+                       L"\\orvane.contextmenuhandler",
+                       L"\\typelib\\{2b44f79d-6ecf-4c3a-ba26-36fb70600b70}"};
+
+/// The topmost keys that are in the second list alone.
+Lines Added(const Lines& before, const Lines& after) {
+  Lines added;
+  std::ranges::set_difference(after, before, std::back_inserter(added));
+  std::erase_if(added, [&, all = added](const std::wstring& key) {
+    return std::ranges::binary_search(all, key.substr(0, key.rfind(L'\\')));
+  });
+  return added;
+}
+
+void ExpectExactly(HKEY hive, HKEY other, const std::function<HRESULT(bool install)>& install) {
+  ASSERT_EQ(install(false), S_OK);
+  const Lines before = Classes(hive);
+  const Lines otherBefore = Classes(other);
+  EXPECT_EQ(install(true), S_OK);
+  EXPECT_EQ(Added(before, Classes(hive)), OwnKeys);
+  EXPECT_TRUE(Classes(other) == otherBefore);
+  const std::wstring server = L"CLSID\\" + std::wstring(ClassId) + L"\\InprocServer32";
+  EXPECT_EQ(ValueOf(hive, server), LibraryPath());
+  EXPECT_EQ(ValueOf(hive, server, L"ThreadingModel"), L"Apartment");
+  const std::wstring typeLibrary = L"TypeLib\\{2B44F79D-6ECF-4C3A-BA26-36FB70600B70}";
+  EXPECT_EQ(ValueOf(hive, typeLibrary + L"\\1.0\\0\\win64"), LibraryPath());
+  EXPECT_EQ(ValueOf(hive, L"Interface\\{5114ED1B-A365-4A22-B49A-1A7B75F4E9CC}"), L"_clsQuickGDI");
+
+  EXPECT_EQ(install(false), S_OK);
+  EXPECT_TRUE(Classes(hive) == before);
+  EXPECT_EQ(install(false), S_OK) << "nothing to remove is no failure";
+}
+
+TEST(Registration, WritesAndRemovesExactlyItsOwnKeys) {
   const Library library;
-  ASSERT_EQ(library.Call("DllUnregisterServer"), S_OK);
-  const Lines before = MachineClasses();
-  const Lines userBefore = RegistryTree(HKEY_CURRENT_USER, Classes);
-
-  ASSERT_EQ(library.Call("DllRegisterServer"), S_OK);
-  const Lines added = Added(before, MachineClasses());
-  EXPECT_EQ(Added(OwnKeys(), added), Lines()) << "written beyond the own keys";
-  EXPECT_EQ(Added(added, OwnKeys()), Lines()) << "not written";
-  EXPECT_EQ(RegistryTree(HKEY_CURRENT_USER, Classes), userBefore);
-
-  ASSERT_EQ(library.Call("DllUnregisterServer"), S_OK);
-  EXPECT_EQ(MachineClasses(), before);
-  EXPECT_EQ(library.Call("DllUnregisterServer"), S_OK) << "nothing to remove is no failure";
+  ExpectExactly(HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER, [&](bool install) {
+    return library.Call(install ? "DllRegisterServer" : "DllUnregisterServer");
+  });
   ASSERT_EQ(library.Call("DllRegisterServer"), S_OK);  // for the other tests
+  const auto installFor = library.Export<DllInstall>("DllInstall");
+  ExpectExactly(HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE,
+                [&](bool install) { return installFor(install, install ? L"user" : L"USER"); });
+  EXPECT_EQ(installFor(true, L"everybody"), E_INVALIDARG);
 }
 
-TEST(Registration, PerUserLeavesTheMachineAlone) {
-  const Library library;
-  const std::wstring own = std::wstring(Classes) + L"\\CLSID\\" + ClassId;
-  const Lines machine = RegistryTree(HKEY_LOCAL_MACHINE, own);
-  const Lines before = UserClasses();
-
-  ASSERT_EQ(library.Install(true, L"user"), S_OK);
-  EXPECT_EQ(Added(before, UserClasses()), OwnKeys());
-  EXPECT_EQ(RegistryTree(HKEY_LOCAL_MACHINE, own), machine);
-
-  ASSERT_EQ(library.Install(false, L"USER"), S_OK);
-  EXPECT_EQ(UserClasses(), before);
+/// One of the scripts beside this program, run by the command interpreter.
+int Run(const wchar_t* script, const std::wstring& argument) {
+  const std::filesystem::path path = std::filesystem::path(HostPath()).replace_filename(script);
+  return _wsystem((L"\"\"" + path.wstring() + L"\" " + argument + L" >nul\"").c_str());
 }
 
-TEST(Registration, RefusesAnUnknownInstallOption) {
-  EXPECT_EQ(Library().Install(true, L"everybody"), E_INVALIDARG);
+void ExpectInstalled(bool installed, HKEY hive, const std::filesystem::path& library) {
+  for (const wchar_t* menuOf : {L"*", L"Directory", L"Directory\\Background", L"Drive"}) {
+    EXPECT_EQ(ValueOf(hive, menuOf + std::wstring(L"\\shellex\\ContextMenuHandlers\\Orvane")),
+              installed ? ClassId : L"");
+  }
+  EXPECT_EQ(ValueOf(hive, L"CLSID\\" + std::wstring(ClassId) + L"\\InprocServer32"),
+            installed ? library.wstring() : L"");
+  EXPECT_EQ(std::filesystem::exists(library), installed);
+  EXPECT_EQ(std::filesystem::exists(library.parent_path()), installed);
+}
+
+void InstallAndUninstall(HKEY hive, const std::wstring& argument, const wchar_t* home) {
+  const auto library = std::filesystem::path(_wgetenv(home)) / L"Orvane" / L"orvane.dll";
+  EXPECT_EQ(Run(L"install.cmd", argument), 0);
+  ExpectInstalled(true, hive, library);
+  EXPECT_EQ(Run(L"uninstall.cmd", argument), 0);
+  ExpectInstalled(false, hive, library);
+}
+
+TEST(Installer, InstallsForOneUserOrForAllAndTakesItBack) {
+  InstallAndUninstall(HKEY_CURRENT_USER, L"user", L"LocalAppData");
+  InstallAndUninstall(HKEY_LOCAL_MACHINE, L"", L"ProgramFiles");
+  EXPECT_EQ(Library().Call("DllRegisterServer"), S_OK);  // for the other tests
 }
 
 }  // namespace

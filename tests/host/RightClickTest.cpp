@@ -2,11 +2,8 @@
 
 #include <set>
 
-#include "host/BoxCloser.h"
 #include "host/Com.h"
 #include "host/Definition.h"
-#include "host/FileDataObject.h"
-#include "host/MenuText.h"
 #include "host/Scene.h"
 #include "menudata/clsOrvaneData.h"
 
@@ -15,79 +12,79 @@ namespace {
 
 using Item = clsOrvaneData;
 
+/// A data object whose files cannot be had. Each medium that it gives holds a reference to it.
+class SpoiltDataObject final : public IDataObject {
+ public:
+  explicit SpoiltDataObject(HRESULT answer) : m_answer(answer) {}
+  ~SpoiltDataObject() { GlobalFree(m_discarded); }
+
+  ULONG references = 1;
+  int given = 0;
+
+  HRESULT STDMETHODCALLTYPE GetData(FORMATETC*, STGMEDIUM* medium) override {
+    if (FAILED(m_answer)) return m_answer;
+    ++given;
+    medium->tymed = TYMED_HGLOBAL;
+    medium->hGlobal = m_discarded;
+    medium->pUnkForRelease = this;
+    AddRef();
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+  HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC*) override { return m_answer; }
+  HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD, IEnumFORMATETC**) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return E_NOTIMPL; }
+
+ private:
+  HRESULT m_answer;
+  HGLOBAL m_discarded = GlobalAlloc(GMEM_MOVEABLE, 0);  // GlobalLock answers null
+};
+
 class RightClicks : public testing::Test {
  protected:
   RightClicks() {
     scene.PlainText();
-    const std::wstring config = scene.Path(L"Menu.cfg");
-    scene.Set(L"ShellConfigFile", config);
-    WriteDefinition(
-        config, {{0, Item::TypeRoot, 0, {L"Orvane"}},
-                 {1, Item::TypeFolder, 0, {scene.Path(L"Reports"), L"&Reports"}},
-                 {1, Item::TypePopupMenu, 0, {L"&Tools"}},
-                 {3, Item::TypeFile, 0, {scene.Path(L"a.txt"), L"&Editor"}},
-                 {3, Item::TypeSeparator, 0, {}},
-                 {3, Item::TypeCustomAction, 0, {L"Hello~", L"Greeting"}},
-                 {1,
-                  Item::TypeSelectionTask,
-                  0,
-                  {L"", L"One file", L"", L"", L"", L"", L"", L"", L"", L"", L"2"}},
-                 {1,
-                  Item::TypeSelectionTask,
-                  0,
-                  {L"", L"Many files", L"", L"", L"", L"", L"", L"", L"", L"", L"4"}},
-                 {1, Item::TypeCopyToX, 0, {scene.Path(L"Reports"), L"Copy to Reports", L"0"}}});
-  }
-
-  std::wstring MenuOf(IDataObject* selection) {
-    RightClick click(scene.Folder(), selection);
-    EXPECT_EQ(click.initialized, S_OK);
-    EXPECT_GT(click.Query(), 0);
-    return MenuText(click.menu);
+    scene.Set(L"ShellConfigFile", scene.Path(L"Menu.cfg"));
+    WriteDefinition(scene.Path(L"Menu.cfg"),
+                    {{0, Item::TypeRoot, 0, {L"Orvane"}},
+                     {1, Item::TypeFile, 0, {L"C:\\a.txt", L"&Editor"}},
+                     {1, Item::TypePopupMenu, 0, {L"&Tools"}},
+                     {3, Item::TypeFolder, 0, {scene.Path(L"Reports"), L"&Reports"}},
+                     {3, Item::TypeSeparator, 0, {}},
+                     {3, Item::TypeCustomAction, 0, {L"Hello~", L"Greeting"}},
+                     {1, Item::TypeCopyToX, 0, {scene.Path(L"Reports"), L"Copy there", L"0"}}});
   }
 
   Apartment apartment;
   Scene scene;
-  BoxCloser closer;
 };
 
 TEST_F(RightClicks, OneFile) {
-  EXPECT_EQ(MenuOf(Select(scene.Folder(), {L"a.txt"}).Get()),
-            L"--------\n"
-            L"Orvane >\n"
-            L"  &Reports\n"
-            L"  &Tools >\n"
-            L"    &Editor\n"
-            L"    --------\n"
-            L"    Greeting\n"
-            L"  One file\n"
-            L"  Copy to Reports\n"
-            L"  --------\n"
-            L"  &Designer...\n"
-            L"--------\n"
-            L"&Add To Quick Access\n"
-            L"--------\n"
-            L"Open in New Window\n"
-            L"Copy to Clipboard\n"
-            L"Copy to Run Dialog...\n"
-            L"Copy to...\n"
-            L"Move to...\n"
-            L"Command Prompt Here\n"
-            L"Task Manager\n"
-            L"--------\n"
-            L"--------\n");
-}
-
-TEST_F(RightClicks, SeveralFilesAndTheBackground) {
-  scene.Set(L"ShellShowQuickAccessMRU", 0);
-  scene.Set(L"ShellShowFlags", 1 | 64 | 128);
-  const std::wstring head =
-      L"--------\nOrvane >\n  &Reports\n  &Tools >\n    &Editor\n    --------\n"
-      L"    Greeting\n";
-  const std::wstring tail = L"  Copy to Reports\n  --------\n  &Designer...\n  --------\n";
-  EXPECT_EQ(MenuOf(Select(scene.Folder(), {L"a.txt", L"\u0416.txt"}).Get()),
-            head + L"  Many files\n" + tail + L"  Move to...\n  Task Manager\n--------\n");
-  EXPECT_EQ(MenuOf(nullptr), head + tail + L"  Task Manager\n--------\n");
+  const auto directory = std::filesystem::current_path();
+  RightClick click(scene.Folder(), Select(scene.Folder(), {L"a.txt"}).Get());
+  EXPECT_EQ(click.initialized, S_OK);
+  click.Query();
+  EXPECT_EQ(click.Text(),
+            L"--------\nOrvane >\n"
+            L"  &Editor\n"
+            L"  &Tools >\n    &Reports\n    --------\n    Greeting\n"
+            L"  Copy there\n  --------\n  &Designer...\n"
+            L"--------\n&Add To Quick Access\n"
+            L"--------\nOpen in New Window\nCopy to Clipboard\nCopy to Run Dialog...\n"
+            L"Copy to...\nMove to...\nCommand Prompt Here\nTask Manager\n"
+            L"--------\n--------\n");
+  EXPECT_EQ(std::filesystem::current_path(), directory) << "the host's own";
 }
 
 void CollectIds(HMENU menu, std::multiset<UINT>& ids) {
@@ -112,58 +109,33 @@ TEST_F(RightClicks, IdentifiersAreUniqueAndWithinTheCountOrTheRange) {
   }
 }
 
-TEST_F(RightClicks, TwoHandlersAddOneRoot) {
-  RightClick first(scene.Folder(), nullptr);
-  RightClick second(scene.Folder(), nullptr);
-  const HRESULT count = first.Query();
-  const std::wstring menu = MenuText(first.menu);
-  EXPECT_EQ(second.handler->QueryContextMenu(first.menu, 0, static_cast<UINT>(1 + count), 32767, 0),
-            0);
-  EXPECT_EQ(MenuText(first.menu), menu);
-}
-
-TEST_F(RightClicks, OneHandlerBuildsAgainAndAgain) {
+TEST_F(RightClicks, TwoHandlersAddOneRootAndOneBuildsAgainAndAgain) {
   RightClick click(scene.Folder(), nullptr);
+  const RightClick second(scene.Folder(), nullptr);
   const HRESULT count = click.Query();
-  const std::wstring menu = MenuText(click.menu);
+  const std::wstring menu = click.Text();
+  const UINT next = static_cast<UINT>(1 + count);
+  EXPECT_EQ(second.handler->QueryContextMenu(click.menu, 0, next, 32767, 0), 0);
+  EXPECT_EQ(click.Text(), menu);
   for (int i = 0; i < 10; ++i) {
     click.NewMenu();
     EXPECT_EQ(click.Query(), count);
-    EXPECT_EQ(MenuText(click.menu), menu);
+    EXPECT_EQ(click.Text(), menu);
   }
 }
 
-TEST_F(RightClicks, CorruptDefinitionIsToldAndInsertsNoRoot) {
-  std::filesystem::resize_file(scene.Path(L"Menu.cfg"), 40);
-  RightClick click(scene.Folder(), nullptr);
-  EXPECT_GE(click.Query(), 0);
-  EXPECT_EQ(closer.boxes,
-            std::vector<std::wstring>{L"Orvane - Orvane Shell Extension: File is corrupt!"});
-  EXPECT_EQ(MenuText(click.menu).find(L"Orvane"), std::wstring::npos);
-}
-
-TEST_F(RightClicks, SelectionLargerThanSixteenBits) {
-  std::vector<std::wstring> paths(70000, scene.Path(L"a.txt"));
-  const ComPtr<FileDataObject> selection = FileDataObject::Of(paths);
-  EXPECT_NE(MenuOf(selection.Get()).find(L"Many files"), std::wstring::npos);
-  EXPECT_EQ(selection->released, selection->given);
-}
-
 TEST_F(RightClicks, RefusedSelectionIsReportedAndItsMediumReleased) {
-  const RightClick failing(scene.Folder(), FileDataObject::Failing(DV_E_FORMATETC).Get());
-  EXPECT_EQ(failing.initialized, DV_E_FORMATETC);
-  const ComPtr<FileDataObject> unlockable = FileDataObject::Unlockable();
-  const RightClick click(scene.Folder(), unlockable.Get());
-  EXPECT_EQ(unlockable->given, 1);
-  EXPECT_EQ(unlockable->released, 1);
+  SpoiltDataObject without(DV_E_FORMATETC);
+  EXPECT_EQ(RightClick(scene.Folder(), &without).initialized, DV_E_FORMATETC);
+  SpoiltDataObject unlockable(S_OK);
+  EXPECT_TRUE(FAILED(RightClick(scene.Folder(), &unlockable).initialized));
+  EXPECT_EQ(unlockable.given, 1);
+  EXPECT_EQ(unlockable.references, 1u);
 }
 
 TEST_F(RightClicks, NothingHandedOverIsNoHarm) {
   RightClick click(L"", nullptr);
   EXPECT_EQ(click.initialized, S_OK);
-  char text[4] = "abc";
-  EXPECT_EQ(click.handler->GetCommandString(0, GCS_HELPTEXTA, nullptr, text, 4), S_OK);
-  EXPECT_STREQ(text, "abc") << "no such entry yet";
   EXPECT_TRUE(FAILED(click.handler->InvokeCommand(nullptr)));
   EXPECT_TRUE(FAILED(click.handler->QueryContextMenu(nullptr, 0, 1, 32767, 0)));
   EXPECT_EQ(click.handler->HandleMenuMsg2(WM_DRAWITEM, 0, 0, nullptr), S_OK);
@@ -176,12 +148,45 @@ TEST_F(RightClicks, NothingHandedOverIsNoHarm) {
   EXPECT_TRUE(FAILED(click.handler->InvokeCommand(&record)));
 }
 
-TEST_F(RightClicks, TheHostKeepsItsCurrentDirectory) {
-  wchar_t before[MAX_PATH], after[MAX_PATH];
-  GetCurrentDirectoryW(MAX_PATH, before);
-  MenuOf(Select(scene.Folder(), {L"a.txt"}).Get());
-  GetCurrentDirectoryW(MAX_PATH, after);
-  EXPECT_STREQ(after, before);
+// What GetCommandString leaves in a buffer of 80 bytes, of which it is told that it may use some.
+std::string Answer(IContextMenu3* handler, UINT_PTR offset, UINT what, UINT size) {
+  std::string bytes(80, 'x');
+  EXPECT_EQ(handler->GetCommandString(offset, what, nullptr, bytes.data(), size), S_OK);
+  return bytes;
+}
+
+// The same buffer with the text's beginning in it, and the rest untouched.
+std::string Filled(std::string text, bool wide, UINT size) {
+  std::string bytes;
+  if (size > 0) {
+    text.resize(std::min<std::size_t>(text.size(), size - 1));
+    for (const char character : text + '\0') bytes.append(1, character).append(wide, '\0');
+  }
+  bytes.resize(80, 'x');
+  return bytes;
+}
+
+TEST_F(RightClicks, HelpTextsAndVerbsStayWithinTheirBuffer) {
+  RightClick click(scene.Folder(), nullptr);
+  EXPECT_EQ(Answer(click.handler.Get(), 0, GCS_HELPTEXTA, 80), std::string(80, 'x')) << "no menu";
+  click.Query(100);
+  const struct {
+    UINT what;
+    const char* text;
+    bool wide;
+  } rows[] = {{GCS_VERBA, "Item0", false},
+              {GCS_VERBW, "", false},
+              {GCS_HELPTEXTA, "Orvane File - C:\\a.txt", false},
+              {GCS_HELPTEXTW, "Orvane File - C:\\a.txt", true},
+              {GCS_VALIDATEA, "", false}};
+  for (const auto& [what, text, wide] : rows) {
+    SCOPED_TRACE(what);
+    for (const UINT size : {0u, 1u, 2u, 7u, 40u}) {
+      EXPECT_EQ(Answer(click.handler.Get(), 0, what, size), Filled(text, wide, size)) << size;
+    }
+    EXPECT_EQ(Answer(click.handler.Get(), 30000, what, 80), std::string(80, 'x')) << "no entry";
+    EXPECT_EQ(click.handler->GetCommandString(0, what, nullptr, nullptr, 80), S_OK);
+  }
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ class RightClick {
  public:
   /// `selection` may be null: a click on the folder's background.
   RightClick(const std::wstring& folder, IDataObject* selection);
-  ~RightClick();
+  ~RightClick() { DestroyMenu(menu); }
   RightClick(const RightClick&) = delete;
   RightClick& operator=(const RightClick&) = delete;
 
@@ -44,9 +44,18 @@ class RightClick {
   /// Puts an empty menu in place of the one that was built.
   void NewMenu();
 
+  /// The menu as indented text: two spaces a level, "--------" for a separator, " >" after a
+  /// popup's caption, "(disabled)" after a disabled entry.
+  std::wstring Text() const;
+
+  // Both are for menus whose identifiers begin with 1.
+  bool Invoke(UINT id, HWND window) const;
+  /// Chooses the entry with the caption, which may lie in a submenu; false when there is none.
+  bool Choose(const std::wstring& caption, HWND window = nullptr) const;
+
   HRESULT initialized = E_FAIL;
   ComPtr<IContextMenu3> handler;
-  HMENU menu = nullptr;
+  HMENU menu = CreatePopupMenu();
 };
 
 }  // namespace orvane::host

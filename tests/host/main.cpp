@@ -1,10 +1,5 @@
-// The end-to-end host: without a mode it runs its tests.
-//   --menu FOLDER [NAME]...   shows a right-click in a real window
-//   --bench                   times whole right-clicks
-//   --write FILE [TEXT]...    records its folder and arguments
-//   --clipboard FILE          records the clipboard's text
-//   --edit                    shows an edit control
-//   /k                        plays the command interpreter
+// The end-to-end host: without one of the modes it runs its tests. Other processes of it do what
+// the tests look at, and write down what they saw as UTF-8.
 
 #include <gtest/gtest.h>
 
@@ -12,10 +7,15 @@
 
 #include <shellapi.h>
 
-#include "common/Watchdog.h"
-#include "host/Com.h"
-#include "host/Modes.h"
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
+#include "common/Watchdog.h"
+#include "host/Modes.h"
+#include "support/Utf8.h"
+
+namespace orvane::host {
 namespace {
 
 std::vector<std::wstring> WideArguments() {
@@ -26,24 +26,66 @@ std::vector<std::wstring> WideArguments() {
   return result;
 }
 
+/// The file is there only when it is whole, since somebody waits for it.
+int WriteWhole(const std::wstring& path, const std::wstring& text) {
+  const std::wstring unfinished = path + L".part";
+  std::ofstream(std::filesystem::path(unfinished), std::ios::binary) << ToUtf8(text);
+  SetCurrentDirectoryW(L"C:\\");  // lets go of the folder, which its maker wants to remove
+  return MoveFileExW(unfinished.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) ? 0 : 1;
+}
+
+/// Writes the current folder and then each argument, a line each.
+int RecordStart(const std::wstring& path, const std::vector<std::wstring>& arguments) {
+  std::wstring text = std::filesystem::current_path().wstring() + L'\n';
+  for (const std::wstring& argument : arguments) text += argument + L'\n';
+  return WriteWhole(path, text);
+}
+
+/// Writes the clipboard's text.
+int RecordClipboard(const std::wstring& path) {
+  std::wstring text = L"(no text)";
+  const bool opened = OpenClipboard(nullptr);
+  if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
+    text = static_cast<const wchar_t*>(GlobalLock(data));
+    GlobalUnlock(data);
+  }
+  if (opened) CloseClipboard();
+  return WriteWhole(path, text);
+}
+
+/// Shows an edit control that has the keyboard, until it is ended.
+int ShowEdit() {
+  const HWND frame = CreateWindowW(L"#32770", L"Orvane Edit", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 30,
+                                   30, 400, 200, nullptr, nullptr, nullptr, nullptr);
+  const HWND edit =
+      CreateWindowW(L"Edit", L"", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | ES_MULTILINE, 0, 0, 380,
+                    150, frame, nullptr, nullptr, nullptr);
+  SetForegroundWindow(frame);
+  SetFocus(edit);
+  return RunMessages();
+}
+
 }  // namespace
+}  // namespace orvane::host
 
 int main(int argc, char** argv) {
+  using namespace orvane;
+  using namespace orvane::host;
   const std::vector<std::wstring> arguments = WideArguments();
   const std::wstring mode = arguments.empty() ? L"" : arguments[0];
   if (mode == L"--menu" && arguments.size() > 1) {
-    return orvane::host::ShowMenu(arguments[1], {arguments.begin() + 2, arguments.end()});
+    return ShowMenu(arguments[1], {arguments.begin() + 2, arguments.end()});
   }
-  if (mode == L"--bench") return orvane::host::RunBench();
+  if (mode == L"--bench") return RunBench();
   if (mode == L"--write" && arguments.size() > 1) {
-    return orvane::host::RecordStart(arguments[1], {arguments.begin() + 2, arguments.end()});
+    return RecordStart(arguments[1], {arguments.begin() + 2, arguments.end()});
   }
   if (mode == L"--clipboard" && arguments.size() > 1) {
-    return orvane::host::RecordClipboard(arguments[1]);
+    return RecordClipboard(arguments[1]);
   }
-  if (mode == L"--edit") return orvane::host::ShowEdit();
-  if (mode == L"/k") return orvane::host::RecordPrompt();
+  if (mode == L"--edit") return ShowEdit();
+  if (mode == L"/k") return RecordStart(_wgetenv(PromptRecord), {});
   testing::InitGoogleTest(&argc, argv);
-  testing::UnitTest::GetInstance()->listeners().Append(new orvane::test::Watchdog);
+  testing::UnitTest::GetInstance()->listeners().Append(new test::Watchdog);
   return RUN_ALL_TESTS();
 }

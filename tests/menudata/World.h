@@ -1,7 +1,9 @@
 #pragma once
 
+#include <fstream>
+#include <iterator>
+#include <span>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -14,6 +16,23 @@
 #include "support/clsTrace.h"
 
 namespace orvane::test {
+
+inline std::vector<std::byte> Bytes(const std::vector<int>& numbers) {
+  std::vector<std::byte> bytes;
+  for (const int number : numbers) bytes.push_back(static_cast<std::byte>(number));
+  return bytes;
+}
+
+inline std::string TextOfFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline std::vector<std::byte> Fixture(const std::string& name) {
+  const std::string content = TextOfFile(ORVANE_TEST_DATA "/" + name);
+  const auto bytes = std::as_bytes(std::span(content));
+  return {bytes.begin(), bytes.end()};
+}
 
 /// A memory desktop with the thread's traces and the tools over it.
 struct World {
@@ -28,6 +47,11 @@ struct World {
   }
 
   DefinitionFile File(std::vector<std::byte> bytes) { return {std::move(bytes), codePage}; }
+
+  Definition Read(std::vector<std::byte> bytes) {
+    DefinitionFile file = File(std::move(bytes));
+    return ReadDefinition(file, tools);
+  }
 
   /// The value records of some texts.
   std::vector<std::byte> Records(const std::vector<std::wstring>& texts) {

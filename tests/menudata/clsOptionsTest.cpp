@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <algorithm>
 #include <string>
 
 #include "menudata/World.h"
@@ -11,236 +11,137 @@ namespace orvane {
 namespace {
 
 using test::World;
+using Options = clsOptions;
 
 const std::wstring Key = L"Software\\Tarnwick\\Orvane\\";
 constexpr Hive User = Hive::CurrentUser;
 
-void ExpectDefaults(const clsOptions& options, const std::wstring& folder) {
-  EXPECT_TRUE(options.m_bGeneralShowBackground);
-  EXPECT_FALSE(options.m_bGeneralAllowMultipleInstances);
-  EXPECT_TRUE(options.m_bGeneralSaveWindowPos);
-  EXPECT_TRUE(options.m_bShellEnable);
-  EXPECT_FALSE(options.m_bShellShowInIE);
-  EXPECT_EQ(options.m_szShellConfigFile, folder + L"\\Default.cfg");
-  EXPECT_EQ(options.m_lShellShowIcons, 3);
-  EXPECT_FALSE(options.m_bShellUseOwnFolderBitmap);
-  EXPECT_EQ(options.m_lShellShowHistoryMRU, 1);
-  EXPECT_EQ(options.m_lShellMaxHistoryMRU, 5);
-  EXPECT_EQ(options.m_lShellShowQuickAccessMRU, 1);
-  EXPECT_EQ(options.m_lShellMaxQuickAccessMRU, 1);
-  EXPECT_EQ(options.m_lShellShowFlags, 254);
-  EXPECT_EQ(options.m_szShellCustomActionsFile, folder + L"\\CustomActions.ini");
-  EXPECT_EQ(options.m_lShellMaxMenuText, 64);
-  EXPECT_FALSE(options.m_bShellIgnoreBoundsCheck);
-  EXPECT_TRUE(options.m_bShellOwnerDraw);
-  EXPECT_FALSE(options.m_bDebugEnable);
-  EXPECT_EQ(options.m_szDebugOutput, folder + L"\\Debug.dbg");
-  EXPECT_FALSE(options.m_bDebugShowWindowsMenuInfo);
-  EXPECT_FALSE(options.m_bDebugEnableInMenu);
-  EXPECT_FALSE(options.m_bTimingEnable);
-  EXPECT_EQ(options.m_szTimingOutput, folder + L"\\Timing.dbg");
-}
-
-TEST(clsOptions, AnEmptyRegistryGivesTheDefaults) {
-  World world;
-  world.options.m_lShellShowFlags = 1;
-  world.options.m_bShellEnable = false;
-  world.options.Reg_Load(world.Services(), Key);
-  ExpectDefaults(world.options, world.desktop.system.programFolder);
-  EXPECT_EQ(world.options.m_lDebugFlags, 66);
-  EXPECT_EQ(world.options.m_szPath, Key);
-  EXPECT_TRUE(world.desktop.effects.All().empty());
-}
-
-TEST(clsOptions, ResetLeavesFourFieldsAlone) {
-  World world;
-  clsOptions& options = world.options;
-  options.m_szPath = L"x";
-  options.m_bShellShowOpen = 4;
-  options.m_lDebugFlags = 5;
-  options.m_lOptions = 6;
-  options.m_lShellMaxHistoryMRU = 7;
-  options.Reset(world.desktop.system);
-  EXPECT_EQ(options.m_szPath, L"x");
-  EXPECT_EQ(options.m_bShellShowOpen, 4);
-  EXPECT_EQ(options.m_lDebugFlags, 5);
-  EXPECT_EQ(options.m_lOptions, 6);
-  ExpectDefaults(options, world.desktop.system.programFolder);
-}
-
-/// Every registry value that is read, what is stored in it here, and whether the field took it.
+/// A registry value, the setting that it is, and what is stored in it here: never the default.
 struct Row {
   const wchar_t* name;
-  std::variant<const wchar_t*, std::uint32_t> stored;
-  std::function<bool(const clsOptions&)> taken;
+  std::variant<bool Options::*, std::int32_t Options::*, std::wstring Options::*> setting;
+  std::variant<std::uint32_t, const wchar_t*> stored;
 };
 
-const std::vector<Row>& Rows() {
-  using O = clsOptions;
-  static const std::vector<Row> rows = {
-      {L"ShellEnable", 0u, [](const O& o) { return !o.m_bShellEnable; }},
-      {L"ShellShowInIE", 5u, [](const O& o) { return o.m_bShellShowInIE; }},
-      {L"ShellShowIcons", 2u, [](const O& o) { return o.m_lShellShowIcons == 2; }},
-      {L"ShellUseOwnFolderBitmap", 1u, [](const O& o) { return o.m_bShellUseOwnFolderBitmap; }},
-      {L"ShellShowHistoryMRU", 2u, [](const O& o) { return o.m_lShellShowHistoryMRU == 2; }},
-      {L"ShelllMaxHistoryMRU", 9u, [](const O& o) { return o.m_lShellMaxHistoryMRU == 9; }},
-      {L"ShellShowQuickAccessMRU", 0u,
-       [](const O& o) { return o.m_lShellShowQuickAccessMRU == 0; }},
-      {L"ShellShowFlags", 0xFFFFFFFFu, [](const O& o) { return o.m_lShellShowFlags == -1; }},
-      {L"ShellConfigFile", L"  C:\\My menu.cfg ",
-       [](const O& o) { return o.m_szShellConfigFile == L"C:\\My menu.cfg"; }},
-      {L"ShellCustomActionsFile", L" C:\\a.ini",
-       [](const O& o) { return o.m_szShellCustomActionsFile == L" C:\\a.ini"; }},
-      {L"ShellMaxMenuText", 10u, [](const O& o) { return o.m_lShellMaxMenuText == 10; }},
-      {L"ShellIgnoreBoundsCheck", 1u, [](const O& o) { return o.m_bShellIgnoreBoundsCheck; }},
-      {L"ShellOwnerDraw", 0u, [](const O& o) { return !o.m_bShellOwnerDraw; }},
-      {L"DebugFlags", 2u, [](const O& o) { return o.m_lDebugFlags == 2; }},
-      {L"DebugEnable", 1u, [](const O& o) { return o.m_bDebugEnable; }},
-      {L"DebugOutput", L"C:\\d.txt", [](const O& o) { return o.m_szDebugOutput == L"C:\\d.txt"; }},
-      {L"DebugShowWindowsMenuInfo", 1u, [](const O& o) { return o.m_bDebugShowWindowsMenuInfo; }},
-      {L"DebugEnableInMenu", 1u, [](const O& o) { return o.m_bDebugEnableInMenu; }},
-      {L"TimingEnable", 1u, [](const O& o) { return o.m_bTimingEnable; }},
-      {L"TimingOutput", L"C:\\t.txt",
-       [](const O& o) { return o.m_szTimingOutput == L"C:\\t.txt"; }},
-      {L"GeneralShowBackground", 0u, [](const O& o) { return !o.m_bGeneralShowBackground; }},
-      {L"GeneralAllowMultipleInstances", 1u,
-       [](const O& o) { return o.m_bGeneralAllowMultipleInstances; }},
-      {L"GeneralSaveWindowPos", 0u, [](const O& o) { return !o.m_bGeneralSaveWindowPos; }},
-  };
-  return rows;
+constexpr Row Rows[] = {
+    {L"ShellEnable", &Options::m_bShellEnable, 0u},
+    {L"ShellShowInIE", &Options::m_bShellShowInIE, 5u},
+    {L"ShellShowIcons", &Options::m_lShellShowIcons, 2u},
+    {L"ShellUseOwnFolderBitmap", &Options::m_bShellUseOwnFolderBitmap, 1u},
+    {L"ShellShowHistoryMRU", &Options::m_lShellShowHistoryMRU, 2u},
+    {L"ShelllMaxHistoryMRU", &Options::m_lShellMaxHistoryMRU, 9u},
+    {L"ShellShowQuickAccessMRU", &Options::m_lShellShowQuickAccessMRU, 0u},
+    {L"ShellShowFlags", &Options::m_lShellShowFlags, 0xFFFFFFFFu},
+    {L"ShellConfigFile", &Options::m_szShellConfigFile, L"C:\\My menu.cfg"},
+    {L"ShellCustomActionsFile", &Options::m_szShellCustomActionsFile, L" C:\\a.ini"},
+    {L"ShellMaxMenuText", &Options::m_lShellMaxMenuText, 10u},
+    {L"ShellIgnoreBoundsCheck", &Options::m_bShellIgnoreBoundsCheck, 1u},
+    {L"ShellOwnerDraw", &Options::m_bShellOwnerDraw, 0u},
+    {L"DebugFlags", &Options::m_lDebugFlags, 2u},
+    {L"DebugEnable", &Options::m_bDebugEnable, 1u},
+    {L"DebugOutput", &Options::m_szDebugOutput, L"C:\\d.txt"},
+    {L"DebugShowWindowsMenuInfo", &Options::m_bDebugShowWindowsMenuInfo, 1u},
+    {L"DebugEnableInMenu", &Options::m_bDebugEnableInMenu, 1u},
+    {L"TimingEnable", &Options::m_bTimingEnable, 1u},
+    {L"TimingOutput", &Options::m_szTimingOutput, L"C:\\t.txt"},
+    {L"GeneralShowBackground", &Options::m_bGeneralShowBackground, 0u},
+    {L"GeneralAllowMultipleInstances", &Options::m_bGeneralAllowMultipleInstances, 1u},
+    {L"GeneralSaveWindowPos", &Options::m_bGeneralSaveWindowPos, 0u},
+};
+
+void Store(World& world) {
+  for (const Row& row : Rows) {
+    if (const auto* number = std::get_if<std::uint32_t>(&row.stored))
+      world.desktop.registry.SetNumber(User, Key, row.name, *number);
+    else
+      world.desktop.registry.SetText(User, Key, row.name, std::get<const wchar_t*>(row.stored));
+  }
 }
 
-void Store(memory::Registry& registry, const Row& row) {
-  if (const auto* number = std::get_if<std::uint32_t>(&row.stored))
-    registry.SetNumber(User, Key, row.name, *number);
-  else
-    registry.SetText(User, Key, row.name, std::get<const wchar_t*>(row.stored));
+/// Whether the setting is what is stored.
+bool Taken(const Options& options, const Row& row) {
+  if (const auto* text = std::get_if<std::wstring Options::*>(&row.setting))
+    return options.**text == std::get<const wchar_t*>(row.stored);
+  const auto number = std::get<std::uint32_t>(row.stored);
+  if (const auto* flag = std::get_if<bool Options::*>(&row.setting))
+    return options.**flag == (number != 0);
+  return options.*std::get<std::int32_t Options::*>(row.setting) ==
+         static_cast<std::int32_t>(number);
 }
 
 TEST(clsOptions, LoadsEveryValueAndSavesIt) {
   World world;
-  for (const Row& row : Rows()) Store(world.desktop.registry, row);
+  Store(world);
+  world.desktop.registry.SetText(User, Key, L"ShellConfigFile", L"  C:\\My menu.cfg ");
   world.desktop.registry.SetNumber(User, Key, L"ShelllMaxQuickAccessMRU", 10);
   world.options.Reg_Load(world.Services(), Key);
-  for (const Row& row : Rows()) EXPECT_TRUE(row.taken(world.options)) << row.name;
+  for (const Row& row : Rows) EXPECT_TRUE(Taken(world.options, row)) << row.name;
   EXPECT_EQ(world.options.m_lShellMaxQuickAccessMRU, 1);
 
   const std::wstring other = L"Software\\Other\\";
   EXPECT_EQ(world.options.Reg_Save(world.Services(), other, false), other);
   EXPECT_EQ(world.desktop.registry.FindNumber(User, other, L"ShelllMaxQuickAccessMRU"), 1u);
   EXPECT_FALSE(world.desktop.registry.Find(User, other, L"DebugFlags"));
-  clsOptions again;
   world.desktop.registry.SetNumber(User, other, L"DebugFlags", 2);
+  Options again;
   again.Reg_Load(world.Services(), other);
-  for (const Row& row : Rows()) {
-    if (std::wstring(row.name) != L"ShellCustomActionsFile") {
-      EXPECT_TRUE(row.taken(again)) << row.name;
-    }
-  }
+  for (const Row& row : Rows) EXPECT_TRUE(Taken(again, row)) << row.name;
 }
 
-TEST(clsOptions, ValuesOfTheWrongTypeLeaveTheDefaults) {
+TEST(clsOptions, AValueOfTheWrongTypeCostsNoOtherValue) {
   const RegistryValue wrong[] = {{2, {}},
                                  {RegistryValue::Binary, std::vector<std::byte>(4)},
                                  {RegistryValue::Number, std::vector<std::byte>(3)},
                                  {RegistryValue::Text, std::vector<std::byte>(3)},
                                  {RegistryValue::Text, std::vector<std::byte>(4, std::byte{65})}};
-  for (const RegistryValue& value : wrong) {
-    World world;
-    for (const Row& row : Rows()) world.desktop.registry.Set(User, Key, row.name, value);
-    world.options.Reg_Load(world.Services(), Key);
-    ExpectDefaults(world.options, world.desktop.system.programFolder);
-    EXPECT_EQ(world.options.m_lDebugFlags, 66);
-  }
-}
-
-TEST(clsOptions, AFailureAtAnyReadLeavesThatDefault) {
-  for (std::size_t call = 1; call <= Rows().size() + 1; ++call) {
-    World world;
-    for (const Row& row : Rows()) {
-      if (std::wstring(row.name) != L"DebugEnable" && std::wstring(row.name) != L"TimingEnable")
-        Store(world.desktop.registry, row);
-    }
-    world.desktop.faults.FailCall(call);
-    world.options.Reg_Load(world.Services(), Key);
-    std::size_t taken = 0;
-    for (const Row& row : Rows()) taken += row.taken(world.options);
-    const bool failedToOpen = call == 1;
-    EXPECT_GE(taken, failedToOpen ? 0 : Rows().size() - 3) << call;
-  }
-}
-
-std::vector<std::wstring> WrittenValues(const memory::Effects& effects) {
-  std::vector<std::wstring> names;
-  for (const auto& effect : effects.All()) {
-    if (effect.call != "RegSet") continue;
-    for (const auto& [field, value] : effect.fields) {
-      if (field == "name") names.push_back(std::get<std::wstring>(value));
+  for (const Row& spoilt : Rows) {
+    for (const RegistryValue& value : wrong) {
+      World world;
+      Store(world);
+      world.desktop.registry.Set(User, Key, spoilt.name, value);
+      world.options.Reg_Load(world.Services(), Key);
+      for (const Row& row : Rows)
+        EXPECT_EQ(Taken(world.options, row), &row != &spoilt) << spoilt.name << ' ' << row.name;
     }
   }
-  return names;
 }
 
-TEST(clsOptions, SavesTheDebugSettingsAlone) {
+TEST(clsOptions, WhatIsNotStoredGetsItsDefault) {
   World world;
-  world.options.m_szPath = Key;
-  EXPECT_EQ(world.options.Reg_Save(world.Services(), L"", true), Key);
-  EXPECT_EQ(WrittenValues(world.desktop.effects),
-            (std::vector<std::wstring>{L"DebugEnable", L"DebugOutput", L"DebugShowWindowsMenuInfo",
-                                       L"DebugEnableInMenu"}));
-}
-
-TEST(clsOptions, SavesTheDebugSettingsFirst) {
-  World world;
-  world.options.Reg_Save(world.Services(), Key, false);
-  const auto names = WrittenValues(world.desktop.effects);
-  ASSERT_EQ(names.size(), 23u);
-  EXPECT_EQ(names[0], L"DebugEnable");
-  EXPECT_EQ(names[4], L"ShellEnable");
-  EXPECT_EQ(names[11], L"ShelllMaxQuickAccessMRU");
-  EXPECT_EQ(names[22], L"GeneralSaveWindowPos");
-}
-
-TEST(clsOptions, DebuggingWarnsAndLogsTheMachineAndTheSettings) {
-  World world;
-  world.desktop.files.AddFile(L"C:\\d.txt", "an old log");
-  world.desktop.registry.SetNumber(User, Key, L"DebugEnable", 1);
-  world.desktop.registry.SetNumber(User, Key, L"DebugFlags", clsTrace::FlagAutoCommit);
-  world.desktop.registry.SetText(User, Key, L"DebugOutput", L"C:\\d.txt");
+  world.options.m_lShellShowFlags = 1;
+  world.options.m_lOptions = 6;
   world.options.Reg_Load(world.Services(), Key);
+  EXPECT_EQ(world.options.m_lShellShowFlags, 254);
+  EXPECT_EQ(world.options.m_lDebugFlags, 66);
+  EXPECT_EQ(world.options.m_lOptions, 6) << "no setting";
+  EXPECT_EQ(world.options.m_szShellCustomActionsFile,
+            world.desktop.system.programFolder + L"\\CustomActions.ini");
+  EXPECT_TRUE(world.desktop.effects.All().empty());
+}
 
+TEST(clsOptions, LogsStartAnewAndSayWhatTheyRunWith) {
+  World world;
+  Store(world);
+  for (const wchar_t* file : {L"C:\\d.txt", L"C:\\t.txt"})
+    world.desktop.files.AddFile(file, "an old log");
+  world.options.Reg_Load(world.Services(), Key);
   const std::string log = world.desktop.files.Content(L"C:\\d.txt").value_or("");
   EXPECT_EQ(log.find("an old log"), std::string::npos);
-  std::size_t place = 0;
   for (const char* line :
        {"Orvane - Orvane Shell Extension - Copyright (c) Tarnwick\r\n",
         "ComputerName: WORKSHOP\r\n", "UserName: Robin\r\n", "CompanyName: Workshop Ltd\r\n",
         "IsNT: -1\r\n", "IsWindows: 0\r\n", "OsInfo: 10.0 (Build 19045)\r\n",
-        ">  ProcessSettings\r\n", "   m_bGeneralShowBackground: True\r\n",
-        "   m_bShellEnable: True\r\n", "Default.cfg\r\n", "   m_lShellShowIcons: 3\r\n",
-        "   m_szDebugOutput: C:\\d.txt\r\n", "Timing.dbg\r\n", "<    (Exit)\r\n"}) {
-    const std::size_t found = log.find(line, place);
-    ASSERT_NE(found, std::string::npos) << line << "\nnot behind\n" << log.substr(0, place);
-    place = found;
-  }
-  ASSERT_FALSE(world.desktop.effects.All().empty());
-  const auto& box = world.desktop.effects.All().front();
-  EXPECT_EQ(box.call, "MessageBox");
-  EXPECT_EQ(std::get<std::wstring>(box.fields[0].second), L"Orvane - Orvane Shell Extension");
-
-  world.options.m_bDebugEnable = false;
-  world.options.Reg_Save(world.Services(), Key, true);
-  EXPECT_FALSE(world.debug.IsInitialised());
-}
-
-TEST(clsOptions, TimingStartsANewFile) {
-  World world;
-  world.desktop.files.AddFile(L"C:\\t.txt", "an old log");
-  world.desktop.registry.SetNumber(User, Key, L"TimingEnable", 1);
-  world.desktop.registry.SetText(User, Key, L"TimingOutput", L"C:\\t.txt");
-  world.options.Reg_Load(world.Services(), Key);
+        ">  ProcessSettings\r\n", "   m_bShellShowInIE: True\r\n", "   m_lShellShowIcons: 2\r\n",
+        "   m_szTimingOutput: C:\\t.txt\r\n"})
+    EXPECT_NE(log.find(line), std::string::npos) << line << log;
   EXPECT_EQ(world.desktop.files.Content(L"C:\\t.txt"),
             "    Timing session started 01/01/2024 09:05:07\r\n");
+  ASSERT_FALSE(world.desktop.effects.All().empty());
+  EXPECT_EQ(world.desktop.effects.All().front().call, "MessageBox");
+
+  world.options.m_bDebugEnable = false;
+  EXPECT_EQ(world.options.Reg_Save(world.Services(), L"", true), Key) << "where it was loaded from";
+  EXPECT_FALSE(world.debug.IsInitialised());
 }
 
 }  // namespace

@@ -1,27 +1,26 @@
-#include <gtest/gtest.h>
-
-#include "platform/memory/Desktop.h"
+#include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include <windows.h>
-
-#include "platform/win32/Clipboard.h"
+#include <latch>
+#include <thread>
 #endif
 
 namespace orvane {
 namespace {
 
-struct OnMemory {
-  memory::Desktop desktop;
-  memory::Clipboard& clipboard = desktop.clipboard;
+class ClipboardContract : public AnyDesktop {
+ protected:
+  std::optional<std::wstring> Text() {
+#ifdef _WIN32
+    if (IsReal()) return RealText();
+#endif
+    return m_memory.clipboard.text;
+  }
 
-  std::optional<std::wstring> Text() { return clipboard.text; }
-};
+  Clipboard& clipboard = m_platform.clipboard;
 
 #ifdef _WIN32
-struct OnWindows {
-  win32::Clipboard clipboard;
-
-  std::optional<std::wstring> Text() {
+ private:
+  std::optional<std::wstring> RealText() {
     if (!OpenClipboard(nullptr)) return L"cannot be opened";
     std::optional<std::wstring> text;
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
@@ -31,85 +30,54 @@ struct OnWindows {
     CloseClipboard();
     return text;
   }
-};
-using BackEnds = testing::Types<OnMemory, OnWindows>;
-#else
-using BackEnds = testing::Types<OnMemory>;
 #endif
-
-template <class BackEnd>
-class ClipboardContract : public testing::Test {
- protected:
-  BackEnd m_backEnd;
-  Clipboard& clipboard = m_backEnd.clipboard;
 };
-TYPED_TEST_SUITE(ClipboardContract, BackEnds, );
 
-TYPED_TEST(ClipboardContract, HoldsTheLastText) {
+INSTANTIATE_TEST_SUITE_P(, ClipboardContract, EveryDesktop(), NameOfDesktop);
+
+TEST_P(ClipboardContract, HoldsTheLastTextUntilItIsCleared) {
   using namespace std::literals;
   for (const std::wstring& text :
        {L"C:\\a\r\nC:\\\u00e4\u05d0\r\n"s, L""s, std::wstring(5'000'000, L'x')}) {
-    EXPECT_TRUE(this->clipboard.SetText(text));
-    EXPECT_TRUE(this->m_backEnd.Text() == text) << text.size();
+    EXPECT_TRUE(clipboard.SetText(text));
+    EXPECT_TRUE(Text() == text) << text.size();
   }
-  EXPECT_TRUE(this->clipboard.SetText(L"ab\0cd"s));
-  EXPECT_EQ(this->m_backEnd.Text(), L"ab");
-}
-
-TYPED_TEST(ClipboardContract, IsEmptyAfterClearing) {
-  EXPECT_TRUE(this->clipboard.SetText(L"text"));
-  EXPECT_TRUE(this->clipboard.Clear());
-  EXPECT_FALSE(this->m_backEnd.Text().has_value());
-}
-
-TEST(MemoryClipboard, RecordsTextsAndCanBeHeldOpen) {
-  memory::Desktop desktop;
-  desktop.clipboard.SetText(L"a");
-  desktop.clipboard.heldOpen = true;
-  EXPECT_FALSE(desktop.clipboard.SetText(L"b"));
-  EXPECT_FALSE(desktop.clipboard.Clear());
-  EXPECT_EQ(desktop.clipboard.text, L"a");
-  EXPECT_EQ(desktop.effects.All().size(), 1u);
+  EXPECT_TRUE(clipboard.SetText(L"ab\0cd"s));
+  EXPECT_EQ(Text(), L"ab");
+  EXPECT_TRUE(clipboard.Clear());
+  EXPECT_EQ(Text(), std::nullopt);
 }
 
 #ifdef _WIN32
-/// Holds the clipboard open from another thread for a while.
-struct Holder {
-  DWORD milliseconds;
-  HANDLE ready = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  HANDLE thread = nullptr;
+/// Another thread that holds the clipboard open for a while.
+class Holder {
+ public:
+  explicit Holder(DWORD milliseconds) : m_thread([this, milliseconds] { Hold(milliseconds); }) {
+    m_ready.wait();
+  }
 
-  explicit Holder(DWORD howLong) : milliseconds(howLong) {
-    thread = CreateThread(
-        nullptr, 0,
-        [](void* parameter) -> DWORD {
-          auto& self = *static_cast<Holder*>(parameter);
-          const HWND owner = CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
-                                             nullptr, nullptr, nullptr);
-          OpenClipboard(owner);
-          SetEvent(self.ready);
-          Sleep(self.milliseconds);
-          CloseClipboard();
-          DestroyWindow(owner);
-          return 0;
-        },
-        this, 0, nullptr);
-    WaitForSingleObject(ready, INFINITE);
+ private:
+  void Hold(DWORD milliseconds) {
+    const HWND owner = CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                       nullptr, nullptr);
+    OpenClipboard(owner);
+    m_ready.count_down();
+    Sleep(milliseconds);
+    CloseClipboard();
+    DestroyWindow(owner);
   }
-  ~Holder() {
-    WaitForSingleObject(thread, INFINITE);
-    CloseHandle(thread);
-    CloseHandle(ready);
-  }
+
+  std::latch m_ready{1};
+  std::jthread m_thread;
 };
 
 TEST(Win32Clipboard, WaitsABoundedTimeForTheOneWhoHoldsIt) {
   win32::Clipboard clipboard;
   {
-    Holder holder(200);
+    const Holder holder(200);
     EXPECT_TRUE(clipboard.SetText(L"after a while"));
   }
-  Holder holder(3000);
+  const Holder holder(3000);
   const ULONGLONG start = GetTickCount64();
   EXPECT_FALSE(clipboard.SetText(L"never"));
   EXPECT_LT(GetTickCount64() - start, 2500u);

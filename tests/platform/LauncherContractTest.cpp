@@ -1,13 +1,7 @@
-#include <gtest/gtest.h>
-
-#include "platform/memory/Desktop.h"
+#include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include <windows.h>
-
-#include <objbase.h>
 #include <shlobj.h>
 
-#include "platform/win32/Launcher.h"
 #include "platform/win32/NativeHandles.h"
 #include "platform/win32/NativeItemIdList.h"
 #endif
@@ -15,68 +9,44 @@
 namespace orvane {
 namespace {
 
-struct OnMemory {
-  memory::Desktop desktop;
-  Launcher& launcher = desktop.launcher;
-  std::wstring interpreter = desktop.system.Environment(L"comspec");
-
-  OnMemory() {
-    desktop.launcher.failures[L"C:\\missing\\nothing.exe"] = 2;
-    desktop.launcher.failures[L"C:\\missing"] = 2;
-  }
-};
-
-#ifdef _WIN32
-struct OnWindows {
-  win32::Launcher win32Launcher;
-  Launcher& launcher = win32Launcher;
-  std::wstring interpreter = L"C:\\windows\\system32\\cmd.exe";
-
-  OnWindows() { EXPECT_TRUE(SUCCEEDED(CoInitialize(nullptr))); }
-  ~OnWindows() { CoUninitialize(); }
-};
-using BackEnds = testing::Types<OnMemory, OnWindows>;
-#else
-using BackEnds = testing::Types<OnMemory>;
-#endif
-
-template <class BackEnd>
-class LauncherContract : public testing::Test {
+class LauncherContract : public AnyDesktop {
  protected:
-  BackEnd m_backEnd;
-  Launcher& launcher = m_backEnd.launcher;
-};
-TYPED_TEST_SUITE(LauncherContract, BackEnds, );
+  LauncherContract() {
+    for (const wchar_t* file : {L"C:\\missing\\nothing.exe", L"C:\\missing"}) {
+      m_memory.launcher.failures[file] = 2;
+    }
+  }
 
-TYPED_TEST(LauncherContract, TellsFailuresFromSuccess) {
-  Execution execution;
-  execution.verb = L"open";
-  execution.file = L"C:\\missing\\nothing.exe";
-  const std::int32_t code = this->launcher.Open(execution);
+  Launcher& launcher = m_platform.launcher;
+  const std::wstring m_interpreter = m_platform.system.Environment(L"ComSpec");
+};
+
+const ItemIdList DesktopItem{{std::byte{0}, std::byte{0}}};
+
+INSTANTIATE_TEST_SUITE_P(, LauncherContract, EveryDesktop(), NameOfDesktop);
+
+TEST_P(LauncherContract, TellsFailuresFromSuccess) {
+  const std::int32_t code = launcher.Open({.verb = L"open", .file = L"C:\\missing\\nothing.exe"});
   EXPECT_GE(code, 0);
   EXPECT_LE(code, 32);
-
-  execution.file = this->m_backEnd.interpreter;
-  execution.parameters = L"/c exit";
-  execution.show = 0;
-  EXPECT_GT(this->launcher.Open(execution), 32);
-  EXPECT_TRUE(this->launcher.OpenEx(execution));
+  const Execution execution{
+      .verb = L"open", .file = m_interpreter, .parameters = L"/c exit", .show = 0};
+  EXPECT_GT(launcher.Open(execution), 32);
+  EXPECT_TRUE(launcher.OpenEx(execution));
 }
 
-TYPED_TEST(LauncherContract, StartsOnlyWhatIsNamedInFull) {
-  const std::wstring& interpreter = this->m_backEnd.interpreter;
-  EXPECT_TRUE(this->launcher.Start(interpreter, L"cmd /c exit", L""));
-  EXPECT_FALSE(this->launcher.Start(L"cmd.exe", L"cmd /c exit", L""));
-  EXPECT_FALSE(this->launcher.Start(L"", L"cmd /c exit", L""));
-  EXPECT_FALSE(this->launcher.Start(L"C:\\missing", L"C:\\missing", L""));
+TEST_P(LauncherContract, StartsOnlyWhatIsNamedInFull) {
+  EXPECT_TRUE(launcher.Start(m_interpreter, L"cmd /c exit", L""));
+  EXPECT_FALSE(launcher.Start(L"cmd.exe", L"cmd /c exit", L""));
+  EXPECT_FALSE(launcher.Start(L"", L"cmd /c exit", L""));
+  EXPECT_FALSE(launcher.Start(L"C:\\missing", L"C:\\missing", L""));
 }
 
-TYPED_TEST(LauncherContract, BrowsesOnlyWithABrowserAndAnItem) {
-  const ItemIdList desktop{{std::byte{0}, std::byte{0}}};
-  EXPECT_LT(this->launcher.BrowseObject(0, desktop), 0);
-  EXPECT_LT(this->launcher.BrowseObject(0x12340, {}), 0);
-  EXPECT_EQ(this->launcher.ShellBrowser(WindowHandle::None), 0);
-  this->launcher.BrowsingDone(WindowHandle::None);
+TEST_P(LauncherContract, BrowsesOnlyWithABrowserAndAnItem) {
+  EXPECT_LT(launcher.BrowseObject(0, DesktopItem), 0);
+  EXPECT_LT(launcher.BrowseObject(0x12340, {}), 0);
+  EXPECT_EQ(launcher.ShellBrowser(WindowHandle::None), 0);
+  launcher.BrowsingDone(WindowHandle::None);
 }
 
 #ifdef _WIN32
@@ -131,9 +101,8 @@ TEST(Win32Launcher, BrowsesInTheWindowsOwnBrowser) {
   win32::Launcher launcher;
   const auto address = launcher.ShellBrowser(win32::FromNative<WindowHandle>(window));
   EXPECT_EQ(address, reinterpret_cast<std::intptr_t>(static_cast<IShellBrowser*>(&browser)));
-  const ItemIdList desktop{{std::byte{0}, std::byte{0}}};
-  EXPECT_EQ(launcher.BrowseObject(address, desktop), S_OK);
-  EXPECT_EQ(browser.browsed, desktop);
+  EXPECT_EQ(launcher.BrowseObject(address, DesktopItem), S_OK);
+  EXPECT_EQ(browser.browsed, DesktopItem);
   EXPECT_EQ(browser.references, 1);
   EXPECT_EQ(launcher.BrowseObject(address, {}), E_POINTER);
   DestroyWindow(window);
@@ -141,14 +110,13 @@ TEST(Win32Launcher, BrowsesInTheWindowsOwnBrowser) {
 
 TEST(Win32Launcher, BelievesNoAddress) {
   win32::Launcher launcher;
-  const ItemIdList desktop{{std::byte{0}, std::byte{0}}};
   const std::intptr_t data[4] = {100, 0, 0, 0};
   const std::intptr_t table[1] = {reinterpret_cast<std::intptr_t>(data)};
   for (const std::intptr_t address :
-       {std::intptr_t{1}, std::intptr_t{100}, std::intptr_t{0x10000}, std::intptr_t{-8},
+       {std::intptr_t{1}, std::intptr_t{0x10000}, std::intptr_t{-8},
         reinterpret_cast<std::intptr_t>(data), reinterpret_cast<std::intptr_t>(data) + 1,
         reinterpret_cast<std::intptr_t>(table)}) {
-    EXPECT_EQ(launcher.BrowseObject(address, desktop), E_POINTER) << address;
+    EXPECT_EQ(launcher.BrowseObject(address, DesktopItem), E_POINTER) << address;
   }
 }
 #endif

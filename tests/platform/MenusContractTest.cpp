@@ -1,39 +1,16 @@
-#include <gtest/gtest.h>
-
-#include "platform/memory/Menus.h"
+#include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include <windows.h>
-
-#include "platform/win32/Menus.h"
 #include "platform/win32/NativeHandles.h"
 #endif
 
 namespace orvane {
 namespace {
 
-struct OnMemory {
-  memory::Faults faults;
-  memory::Menus menus{faults};
-};
-#ifdef _WIN32
-struct OnWindows {
-  win32::Menus menus;
-};
-using BackEnds = testing::Types<OnMemory, OnWindows>;
-#else
-using BackEnds = testing::Types<OnMemory>;
-#endif
-
-template <class BackEnd>
-class MenusContract : public testing::Test {
+class MenusContract : public AnyDesktop {
  protected:
-  bool InsertText(MenuHandle menu, std::int32_t position, const std::wstring& caption,
-                  MenuHandle submenu = MenuHandle::None) {
-    MenuEntry entry;
-    entry.caption = caption;
-    entry.id = ++m_lastId;
-    entry.submenu = submenu;
-    return menus.Insert(menu, position, entry);
+  bool Insert(MenuHandle menu, std::int32_t position, const std::wstring& caption,
+              MenuHandle submenu = MenuHandle::None) {
+    return menus.Insert(menu, position, {.caption = caption, .id = 7, .submenu = submenu});
   }
 
   std::wstring Captions(MenuHandle menu) {
@@ -44,120 +21,84 @@ class MenusContract : public testing::Test {
     return all;
   }
 
-  BackEnd m_backEnd;
-  Menus& menus = m_backEnd.menus;
-
- private:
-  std::uint32_t m_lastId = 0;
+  Menus& menus = m_platform.menus;
+  const UniqueMenu m_menu{menus, menus.CreatePopup()};
+  const MenuHandle menu = m_menu.get();
 };
-TYPED_TEST_SUITE(MenusContract, BackEnds, );
 
-TYPED_TEST(MenusContract, InsertsBeforeAPositionAndElseAtTheEnd) {
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
-  ASSERT_TRUE(menu);
-  EXPECT_EQ(this->menus.Count(menu.get()), 0);
-  EXPECT_TRUE(this->InsertText(menu.get(), Menus::Append, L"b"));
-  EXPECT_TRUE(this->InsertText(menu.get(), 0, L"a"));
-  EXPECT_TRUE(this->InsertText(menu.get(), 2, L"c"));
-  EXPECT_TRUE(this->InsertText(menu.get(), 99, L"e"));
-  EXPECT_TRUE(this->InsertText(menu.get(), 3, L"&d"));
-  EXPECT_EQ(this->menus.Count(menu.get()), 5);
-  EXPECT_EQ(this->Captions(menu.get()), L"a|b|c|&d|e|");
+INSTANTIATE_TEST_SUITE_P(, MenusContract, EveryDesktop(), NameOfDesktop);
+
+TEST_P(MenusContract, InsertsBeforeAPositionAndElseAtTheEnd) {
+  EXPECT_EQ(menus.Count(menu), 0);
+  EXPECT_TRUE(Insert(menu, Menus::Append, L"b"));
+  EXPECT_TRUE(Insert(menu, 0, L"a"));
+  EXPECT_TRUE(Insert(menu, 2, L"c"));
+  EXPECT_TRUE(Insert(menu, 99, L"e"));
+  EXPECT_TRUE(Insert(menu, 3, L"&d"));
+  EXPECT_EQ(menus.Count(menu), 5);
+  EXPECT_EQ(Captions(menu), L"a|b|c|&d|e|");
 }
 
-TYPED_TEST(MenusContract, LooksAtCaptionsOfEveryKindOfEntry) {
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
-  const MenuHandle submenu = this->menus.CreatePopup();
-  MenuEntry entry;
-  entry.separator = true;
-  ASSERT_TRUE(this->menus.Insert(menu.get(), Menus::Append, entry));
-  entry = {};
-  entry.caption = std::wstring(300, L'x');
-  ASSERT_TRUE(this->menus.Insert(menu.get(), Menus::Append, entry));
-  entry.caption = L"drawn";
-  entry.ownerDraw = true;
-  entry.submenu = submenu;
-  ASSERT_TRUE(this->menus.Insert(menu.get(), Menus::Append, entry));
-  for (const auto state : {MenuEntry::State::Disabled, MenuEntry::State::Grayed}) {
-    entry = {};
-    entry.caption = L"\u00e4\u05d0\u4e2d";
-    entry.state = state;
-    ASSERT_TRUE(this->menus.Insert(menu.get(), Menus::Append, entry));
+TEST_P(MenusContract, LooksAtCaptionsOfEveryKindOfEntry) {
+  using State = MenuEntry::State;
+  const MenuHandle submenu = menus.CreatePopup();
+  for (const MenuEntry& entry :
+       {MenuEntry{.separator = true}, MenuEntry{.caption = std::wstring(300, L'x')},
+        MenuEntry{.caption = L"drawn", .submenu = submenu, .ownerDraw = true},
+        MenuEntry{.caption = L"\u00e4\u05d0\u4e2d", .state = State::Disabled},
+        MenuEntry{.caption = L"gray", .state = State::Grayed}}) {
+    ASSERT_TRUE(menus.Insert(menu, Menus::Append, entry));
   }
-  EXPECT_EQ(this->Captions(menu.get()),
-            L"|" + std::wstring(255, L'x') + L"|drawn|\u00e4\u05d0\u4e2d|\u00e4\u05d0\u4e2d|");
+  EXPECT_EQ(Captions(menu), L"|" + std::wstring(255, L'x') + L"|drawn|\u00e4\u05d0\u4e2d|gray|");
 
   std::wstring caption;
   MenuHandle found{};
-  EXPECT_TRUE(this->menus.Look(menu.get(), 2, caption, found));
+  EXPECT_TRUE(menus.Look(menu, 2, caption, found));
   EXPECT_EQ(found, submenu);
-  EXPECT_TRUE(this->menus.Look(menu.get(), 1, caption, found));
+  EXPECT_TRUE(menus.Look(menu, 1, caption, found));
   EXPECT_EQ(found, MenuHandle::None);
 }
 
-TYPED_TEST(MenusContract, OutputsStayUntouchedWithoutAnEntry) {
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
+TEST_P(MenusContract, OutputsStayUntouchedWithoutAnEntry) {
   std::wstring caption = L"before";
-  MenuHandle submenu = menu.get();
-  for (const std::int32_t position : {0, 1, -1, 2'000'000'000}) {
-    EXPECT_FALSE(this->menus.Look(menu.get(), position, caption, submenu)) << position;
-    EXPECT_FALSE(this->menus.Remove(menu.get(), position)) << position;
+  MenuHandle submenu = menu;
+  for (const std::int32_t position : {0, -1, 2'000'000'000}) {
+    EXPECT_FALSE(menus.Look(menu, position, caption, submenu)) << position;
+    EXPECT_FALSE(menus.Remove(menu, position)) << position;
   }
   EXPECT_EQ(caption, L"before");
-  EXPECT_EQ(submenu, menu.get());
+  EXPECT_EQ(submenu, menu);
 }
 
-TYPED_TEST(MenusContract, RemovingAnEntryDestroysItsSubmenu) {
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
-  const MenuHandle submenu = this->menus.CreatePopup();
-  this->InsertText(menu.get(), Menus::Append, L"popup", submenu);
-  this->InsertText(menu.get(), Menus::Append, L"rest");
-  EXPECT_TRUE(this->menus.Remove(menu.get(), 0));
-  EXPECT_FALSE(this->menus.Exists(submenu));
-  EXPECT_EQ(this->Captions(menu.get()), L"rest|");
+TEST_P(MenusContract, WhatHoldsASubmenuTakesItAlong) {
+  const MenuHandle submenu = menus.CreatePopup();
+  const MenuHandle inner = menus.CreatePopup();
+  const MenuHandle removed = menus.CreatePopup();
+  const MenuHandle apart = menus.CreatePopup();
+  const MenuHandle outer = menus.CreatePopup();
+  Insert(submenu, Menus::Append, L"inner", inner);
+  Insert(outer, Menus::Append, L"submenu", submenu);
+  Insert(outer, 0, L"removed", removed);
+  EXPECT_TRUE(menus.Remove(outer, 0));
+  EXPECT_FALSE(menus.Exists(removed));
+  EXPECT_EQ(Captions(outer), L"submenu|");
+  menus.Destroy(outer);
+  for (const MenuHandle gone : {outer, submenu, inner}) EXPECT_FALSE(menus.Exists(gone));
+  EXPECT_TRUE(menus.Exists(apart));
+  menus.Destroy(outer);  // once more does nothing
+  menus.Destroy(apart);
 }
 
-TYPED_TEST(MenusContract, DestroyingAMenuDestroysWhatIsInIt) {
-  const MenuHandle menu = this->menus.CreatePopup();
-  const MenuHandle submenu = this->menus.CreatePopup();
-  const MenuHandle inner = this->menus.CreatePopup();
-  const MenuHandle apart = this->menus.CreatePopup();
-  this->InsertText(submenu, Menus::Append, L"inner", inner);
-  this->InsertText(menu, Menus::Append, L"submenu", submenu);
-  this->menus.Destroy(menu);
-  EXPECT_FALSE(this->menus.Exists(menu));
-  EXPECT_FALSE(this->menus.Exists(submenu));
-  EXPECT_FALSE(this->menus.Exists(inner));
-  EXPECT_TRUE(this->menus.Exists(apart));
-  this->menus.Destroy(menu);  // once more does nothing
-  this->menus.Destroy(apart);
-}
-
-TYPED_TEST(MenusContract, WhatIsNoMenuTakesNothing) {
-  const MenuHandle gone = this->menus.CreatePopup();
-  this->menus.Destroy(gone);
-  for (const MenuHandle menu : {MenuHandle::None, gone, MenuHandle{0x7ffffff1}}) {
-    EXPECT_FALSE(this->menus.Exists(menu));
-    EXPECT_EQ(this->menus.Count(menu), -1);
-    EXPECT_FALSE(this->InsertText(menu, 0, L"a"));
-    EXPECT_FALSE(this->menus.Remove(menu, 0));
+TEST_P(MenusContract, WhatIsNoMenuTakesNothing) {
+  const MenuHandle gone = menus.CreatePopup();
+  menus.Destroy(gone);
+  for (const MenuHandle none : {MenuHandle::None, gone, MenuHandle{0x7ffffff1}}) {
+    EXPECT_FALSE(menus.Exists(none));
+    EXPECT_EQ(menus.Count(none), -1);
+    EXPECT_FALSE(Insert(none, 0, L"a"));
+    EXPECT_FALSE(menus.Remove(none, 0));
   }
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
-  EXPECT_FALSE(this->InsertText(menu.get(), 0, L"a", gone)) << "a submenu that is no menu";
-}
-
-TYPED_TEST(MenusContract, HoldsManyEntriesAndLevels) {
-  UniqueMenu menu(this->menus, this->menus.CreatePopup());
-  for (int i = 0; i < 5000; ++i) ASSERT_TRUE(this->InsertText(menu.get(), Menus::Append, L"x"));
-  EXPECT_EQ(this->menus.Count(menu.get()), 5000);
-
-  MenuHandle child = this->menus.CreatePopup();
-  for (int level = 0; level < 15; ++level) {
-    const MenuHandle parent = this->menus.CreatePopup();
-    ASSERT_TRUE(this->InsertText(parent, Menus::Append, L"level", child));
-    child = parent;
-  }
-  this->menus.Destroy(child);
+  EXPECT_FALSE(Insert(menu, 0, L"a", gone)) << "a submenu that is no menu";
 }
 
 #ifdef _WIN32
@@ -171,26 +112,20 @@ TEST(Win32Menus, HandOverStateKindAndBitmap) {
                {.caption = L"drawn", .state = MenuEntry::State::Disabled, .ownerDraw = true});
   menus.Insert(menu.get(), Menus::Append, {.caption = L"gray", .state = MenuEntry::State::Grayed});
 
-  struct Row {
-    UINT type;
-    UINT state;
-    HBITMAP bitmap;
-    UINT id;
+  const auto info = [&menu](UINT position) {
+    MENUITEMINFOW read{};
+    read.cbSize = sizeof read;
+    read.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_CHECKMARKS | MIIM_ID;
+    EXPECT_TRUE(GetMenuItemInfoW(win32::ToNative<HMENU>(menu.get()), position, TRUE, &read));
+    return read;
   };
-  const Row rows[] = {{MFT_STRING, MFS_ENABLED, picture, 7},
-                      {MFT_OWNERDRAW, MF_DISABLED, nullptr, 0},
-                      {MFT_STRING, MFS_GRAYED, nullptr, 0}};
-  for (UINT i = 0; i < std::size(rows); ++i) {
-    MENUITEMINFOW info{};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_CHECKMARKS | MIIM_ID;
-    ASSERT_TRUE(GetMenuItemInfoW(win32::ToNative<HMENU>(menu.get()), i, TRUE, &info));
-    EXPECT_EQ(info.fType, rows[i].type) << i;
-    EXPECT_EQ(info.fState, rows[i].state) << i;
-    EXPECT_EQ(info.hbmpUnchecked, rows[i].bitmap) << i;
-    EXPECT_EQ(info.hbmpChecked, rows[i].bitmap) << i;
-    EXPECT_EQ(info.wID, rows[i].id) << i;
-  }
+  EXPECT_EQ(info(0).fState, static_cast<UINT>(MFS_ENABLED));
+  EXPECT_EQ(info(0).wID, 7u);
+  EXPECT_EQ(info(0).hbmpUnchecked, picture);
+  EXPECT_EQ(info(0).hbmpChecked, picture);
+  EXPECT_EQ(info(1).fType, static_cast<UINT>(MFT_OWNERDRAW));
+  EXPECT_EQ(info(1).fState, static_cast<UINT>(MF_DISABLED));
+  EXPECT_EQ(info(2).fState, static_cast<UINT>(MFS_GRAYED));
   DeleteObject(picture);
 }
 #endif

@@ -1,110 +1,33 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
-#include "platform/memory/Desktop.h"
+#include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include <windows.h>
-
 #include "platform/win32/NativeHandles.h"
-#include "platform/win32/Processes.h"
 #endif
 
 namespace orvane {
 namespace {
 
-struct OnMemory {
-  memory::Desktop desktop;
-  Processes& processes = desktop.processes;
-  std::uint32_t self = 40;
-  std::uint32_t thread = 41;
-  std::wstring executable = L"C:\\Program Files\\Host\\host.exe";
-  WindowHandle window = desktop.windows.Add({.process = self, .thread = thread});
-
-  OnMemory() {
-    desktop.processes.running = {{.id = 4, .executable = L"System", .canBeOpened = false},
-                                 {.id = self, .executable = executable, .threads = {thread}}};
-  }
-};
-
+/// Known is one process with one thread and one window: on Windows the test's own.
+class ProcessesContract : public AnyDesktop {
+ protected:
+  ProcessesContract() {
+    m_memory.processes.running = {
+        {.id = 4, .executable = L"System", .canBeOpened = false},
+        {.id = m_process, .executable = m_executable, .threads = {m_thread}}};
+    m_window = m_memory.windows.Add({.process = m_process, .thread = m_thread});
 #ifdef _WIN32
-struct OnWindows {
-  win32::Processes win32Processes;
-  Processes& processes = win32Processes;
-  std::uint32_t self = GetCurrentProcessId();
-  std::uint32_t thread = GetCurrentThreadId();
-  std::wstring executable;
-  HWND native = CreateWindowExW(0, L"Static", L"Orvane test", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
-                                0, 99, 99, nullptr, nullptr, nullptr, nullptr);
-  WindowHandle window = win32::FromNative<WindowHandle>(native);
-
-  OnWindows() {
+    if (!IsReal()) return;
+    m_process = GetCurrentProcessId();
+    m_thread = GetCurrentThreadId();
     wchar_t path[MAX_PATH];
-    executable.assign(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
-  }
-  ~OnWindows() { DestroyWindow(native); }
-};
-using BackEnds = testing::Types<OnMemory, OnWindows>;
-#else
-using BackEnds = testing::Types<OnMemory>;
+    m_executable.assign(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
+    m_window = win32::FromNative<WindowHandle>(Open(0));
 #endif
-
-constexpr std::uint32_t NoProcess = 0x7FFFFFF0;
-
-bool Contains(const std::vector<std::uint32_t>& numbers, std::uint32_t number) {
-  return std::ranges::find(numbers, number) != numbers.end();
-}
-
-template <class BackEnd>
-class ProcessesContract : public testing::Test {
- protected:
-  BackEnd m_backEnd;
-  Processes& processes = m_backEnd.processes;
-};
-TYPED_TEST_SUITE(ProcessesContract, BackEnds, );
-
-TYPED_TEST(ProcessesContract, FindsAProcessAndItsExecutable) {
-  const auto& known = this->m_backEnd;
-  EXPECT_TRUE(Contains(this->processes.Ids(), known.self));
-  EXPECT_EQ(this->processes.Executable(known.self), known.executable);
-  EXPECT_EQ(this->processes.Executable(NoProcess), L"");
-}
-
-TYPED_TEST(ProcessesContract, WalksSnapshots) {
-  const auto& known = this->m_backEnd;
-  const auto entries = this->processes.ProcessSnapshot();
-  EXPECT_TRUE(std::ranges::any_of(entries, [&](const Processes::Entry& entry) {
-    return entry.process == known.self && !entry.file.empty();
-  }));
-  const auto modules = this->processes.ModuleSnapshot(known.self);
-  EXPECT_TRUE(std::ranges::any_of(modules, [&](const Processes::Module& module) {
-    return module.path == known.executable && known.executable.ends_with(L"\\" + module.name);
-  }));
-  EXPECT_TRUE(Contains(this->processes.ThreadSnapshot(known.self), known.thread));
-  EXPECT_TRUE(this->processes.ModuleSnapshot(NoProcess).empty());
-  EXPECT_TRUE(this->processes.ThreadSnapshot(NoProcess).empty());
-}
-
-TYPED_TEST(ProcessesContract, KnowsTheOwnerOfAWindow) {
-  const auto owner = this->processes.OwnerOf(this->m_backEnd.window);
-  EXPECT_EQ(owner.process, this->m_backEnd.self);
-  EXPECT_EQ(owner.thread, this->m_backEnd.thread);
-  for (const WindowHandle window : {WindowHandle::None, WindowHandle{0x7ffffff1}}) {
-    EXPECT_EQ(this->processes.OwnerOf(window).process, 0u);
-    EXPECT_EQ(this->processes.OwnerOf(window).thread, 0u);
   }
-}
-
-TYPED_TEST(ProcessesContract, ActivatesWhatHasAWindow) {
-  EXPECT_TRUE(this->processes.Activate(this->m_backEnd.self));
-  EXPECT_FALSE(this->processes.Activate(NoProcess));
-  EXPECT_FALSE(this->processes.PostQuit(NoProcess));
-}
 
 #ifdef _WIN32
-class Win32Processes : public testing::Test {
- protected:
-  ~Win32Processes() override {
+  ~ProcessesContract() override {
     for (const HWND window : m_windows) DestroyWindow(window);
   }
 
@@ -117,16 +40,65 @@ class Win32Processes : public testing::Test {
   }
 
   HWND ForegroundAfterActivation() {
-    EXPECT_TRUE(m_processes.Activate(GetCurrentProcessId()));
+    EXPECT_TRUE(processes.Activate(m_process));
     return GetForegroundWindow();
   }
 
-  win32::Processes m_processes;
   std::vector<HWND> m_windows;  // those above others first
+#endif
+
+  std::uint32_t m_process = 40;
+  std::uint32_t m_thread = 41;
+  std::wstring m_executable = L"C:\\Program Files\\Host\\host.exe";
+  WindowHandle m_window = WindowHandle::None;
+  Processes& processes = m_platform.processes;
+  static constexpr std::uint32_t NoProcess = 0x7FFFFFF0;
 };
 
-TEST_F(Win32Processes, LeaveTheWindowThatHasTheFocusInFront) {
-  const HWND main = Open(0);
+INSTANTIATE_TEST_SUITE_P(, ProcessesContract, EveryDesktop(), NameOfDesktop);
+
+TEST_P(ProcessesContract, FindsAProcessAndItsExecutable) {
+  const auto ids = processes.Ids();
+  EXPECT_NE(std::ranges::find(ids, m_process), ids.end());
+  EXPECT_EQ(processes.Executable(m_process), m_executable);
+  EXPECT_EQ(processes.Executable(NoProcess), L"");
+}
+
+TEST_P(ProcessesContract, WalksSnapshots) {
+  EXPECT_TRUE(std::ranges::any_of(processes.ProcessSnapshot(), [this](const auto& entry) {
+    return entry.process == m_process && !entry.file.empty();
+  }));
+  EXPECT_TRUE(std::ranges::any_of(processes.ModuleSnapshot(m_process), [this](const auto& module) {
+    return module.path == m_executable && m_executable.ends_with(L"\\" + module.name);
+  }));
+  const auto threads = processes.ThreadSnapshot(m_process);
+  EXPECT_NE(std::ranges::find(threads, m_thread), threads.end());
+  EXPECT_TRUE(processes.ModuleSnapshot(NoProcess).empty());
+  EXPECT_TRUE(processes.ThreadSnapshot(NoProcess).empty());
+}
+
+TEST_P(ProcessesContract, KnowsTheOwnerOfAWindow) {
+  const auto owner = processes.OwnerOf(m_window);
+  EXPECT_EQ(owner.process, m_process);
+  EXPECT_EQ(owner.thread, m_thread);
+  for (const WindowHandle window : {WindowHandle::None, WindowHandle{0x7ffffff1}}) {
+    EXPECT_EQ(processes.OwnerOf(window).process, 0u);
+    EXPECT_EQ(processes.OwnerOf(window).thread, 0u);
+  }
+}
+
+TEST_P(ProcessesContract, ActivatesWhatHasAWindow) {
+  EXPECT_TRUE(processes.Activate(m_process));
+  EXPECT_FALSE(processes.Activate(NoProcess));
+  EXPECT_FALSE(processes.PostQuit(NoProcess));
+}
+
+#ifdef _WIN32
+class Win32Processes : public ProcessesContract {};
+INSTANTIATE_TEST_SUITE_P(, Win32Processes, testing::Values("win32"), NameOfDesktop);
+
+TEST_P(Win32Processes, LeaveTheWindowThatHasTheFocusInFront) {
+  const HWND main = m_windows.front();
   const HWND dialog = Open(0, main);
   EnableWindow(main, FALSE);
   SetForegroundWindow(dialog);

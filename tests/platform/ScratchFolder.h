@@ -20,38 +20,36 @@ class ScratchFolder {
   }
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder() { RemoveAll(); }
+#ifdef _WIN32
+  ~ScratchFolder() {
+    RemoveAll(L"\\\\?\\" + m_path.wstring());
+  }
+#else
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+  }
+#endif
 
-  const std::filesystem::path& Path() const { return m_path; }
+  const std::filesystem::path& Path() const {
+    return m_path;
+  }
 
  private:
 #ifdef _WIN32
   // The library's own stops at paths of 260 characters.
-  void RemoveAll() {
-    RemoveAll(L"\\\\?\\" + m_path.wstring());
-  }
-
   static void RemoveAll(const std::wstring& folder) {
     WIN32_FIND_DATAW found;
     const HANDLE walk = FindFirstFileW((folder + L"\\*").c_str(), &found);
     if (walk == INVALID_HANDLE_VALUE) return;
     do {
       const std::wstring name = found.cFileName;
-      const std::wstring path = folder + L"\\" + name;
       if (name == L"." || name == L"..") continue;
-      if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
-        RemoveAll(path);
-      } else {
-        DeleteFileW(path.c_str());
-      }
+      const std::wstring path = folder + L"\\" + name;
+      if (!DeleteFileW(path.c_str())) RemoveAll(path);
     } while (FindNextFileW(walk, &found));
     FindClose(walk);
     RemoveDirectoryW(folder.c_str());
-  }
-#else
-  void RemoveAll() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
   }
 #endif
 

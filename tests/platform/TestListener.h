@@ -70,19 +70,21 @@ class TestListener {
  private:
 #ifdef _WIN32
   using Socket = SOCKET;
-  static constexpr Socket None = INVALID_SOCKET;
-  static void Close(Socket& socket) {
-    if (socket != None) closesocket(socket);
-    socket = None;
+  static void CloseSocket(Socket socket) {
+    closesocket(socket);
   }
 #else
   using Socket = int;
-  static constexpr Socket None = -1;
-  static void Close(Socket& socket) {
-    if (socket != None) close(socket);
-    socket = None;
+  static void CloseSocket(Socket socket) {
+    close(socket);
   }
 #endif
+  static constexpr Socket None = static_cast<Socket>(-1);
+
+  static void Close(Socket& socket) {
+    if (socket != None) CloseSocket(socket);
+    socket = None;
+  }
 
   Socket m_listening = None;
   Socket m_accepted = None;

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/DefinitionBuilder.h"
+#include "menudata/Definition.h"
 #include "platform/memory/DataObject.h"
 #include "platform/memory/Desktop.h"
 #include "platform/memory/MenuText.h"
@@ -19,18 +17,32 @@
 
 namespace orvane::test {
 
+using Data = clsOrvaneData;
+
 inline constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
 inline constexpr const wchar_t* ConfigFile = L"C:\\Program Files\\Orvane\\Default.cfg";
+inline constexpr const wchar_t* LogFile = L"C:\\Program Files\\Orvane\\Debug.dbg";
+
+inline Data Item(std::int32_t type, const std::wstring& caption, const std::wstring& location = {},
+                 std::int32_t options = 0) {
+  Data item;
+  item.m_lType = type;
+  item.m_lOptions = options;
+  item.Location(location);
+  item.Caption(caption);
+  return item;
+}
 
 /// A right-click on the memory desktop: set the scene, click, look at the menu. The end of its life
 /// is the end of the menu, and checks what must hold of every menu.
 class RightClick {
  public:
-  explicit RightClick() {
-    Set(L"ShellShowHistoryMRU", 0);
-    Set(L"ShellShowQuickAccessMRU", 0);
-    Set(L"ShellShowFlags", 0);
-    Set(L"ShellOwnerDraw", 0);
+  RightClick() {
+    for (const wchar_t* name :
+         {L"ShellShowHistoryMRU", L"ShellShowQuickAccessMRU", L"ShellShowFlags", L"ShellOwnerDraw"})
+      Set(name, 0);
+    Add(Item(Data::TypeRoot, {}), 0);
+    definition.items[0].data.m_szRoot_Caption = L"Orvane";
   }
 
   ~RightClick() {
@@ -43,55 +55,37 @@ class RightClick {
     desktop.registry.SetNumber(Hive::CurrentUser, SettingsKey, name, number);
   }
 
-  void Define(const DefinitionBuilder& builder) {
-    memory::Desktop scribe;
-    const CodePage codePage(scribe.system.AnsiCharacters());
-    clsTrace debug(scribe.files, scribe.boxes, scribe.clock, scribe.locale, scribe.tcp, codePage);
-    Define(WriteDefinition(builder.definition, codePage, debug));
-  }
-  void Define(const std::vector<std::byte>& bytes) {
-    desktop.files.AddFile(
-        ConfigFile, std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+  /// Adds an item to the menu definition; answers its place, for its children.
+  std::int32_t Add(const Data& item, std::int32_t parent = 1) {
+    definition.items.push_back({parent, item});
+    return definition.header.ItemCount = static_cast<std::int32_t>(definition.items.size());
   }
 
+  /// Has these bytes as definition file.
+  void Define(std::string_view bytes) { desktop.files.AddFile(ConfigFile, std::string(bytes)); }
+
   /// Stores entries in a recently-used list ("HistoryMRU", "QuickAccessMRU"), newest first.
-  void Remember(const std::wstring& list, const std::vector<clsOrvaneData>& items) {
+  void Remember(const std::wstring& list, const std::vector<Data>& items) {
     memory::Desktop scribe;
-    ModuleGlobals globals(scribe.Bundle());
+    ModuleGlobals tools(scribe.Bundle());
     const std::wstring key = std::wstring(SettingsKey) + L"ContextMenu\\" + list;
     std::uint32_t count = 0;
-    for (const clsOrvaneData& item : items)
+    for (const Data& item : items)
       desktop.registry.SetText(Hive::CurrentUser, key, L"Mru" + std::to_wstring(++count),
-                               globals.tools.CreateHistoryMRU(item));
+                               tools.tools.CreateHistoryMRU(item));
     desktop.registry.SetNumber(Hive::CurrentUser, key, L"MruFileCount", count);
   }
 
-  static clsOrvaneData Entry(std::int32_t type, const std::wstring& location,
-                             const std::wstring& caption, std::int32_t options = 0) {
-    clsOrvaneData item;
-    item.m_lType = type;
-    item.m_lOptions = options;
-    item.Location(location);
-    item.Caption(caption);
-    return item;
-  }
-
-  /// Creates the handler and hands it folder and selection.
-  ContextMenuHandler& Create(const std::wstring& folder = {},
-                             std::initializer_list<std::wstring_view> selection = {}) {
+  /// The whole right-click; the answer of QueryContextMenu.
+  std::int32_t Click(const std::wstring& folder = {},
+                     std::initializer_list<std::wstring_view> selection = {}) {
+    if (definition.items.size() > 1) WriteDefinitionFile();
     if (!globals) globals.emplace(desktop.Bundle());
     handler = std::make_unique<ContextMenuHandler>(*globals);
     std::shared_ptr<DataObject> data;
     if (selection.size() > 0) data = std::make_shared<memory::DataObject>(selection);
     const ItemIdList pidl = folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder);
     EXPECT_EQ(handler->IShellExtInit_Initialize(pidl, data, 0), 0);
-    return *handler;
-  }
-
-  /// The whole right-click; the answer of QueryContextMenu.
-  std::int32_t Click(const std::wstring& folder = {},
-                     std::initializer_list<std::wstring_view> selection = {}) {
-    Create(folder, selection);
     return Query();
   }
 
@@ -101,9 +95,13 @@ class RightClick {
   }
 
   std::wstring Menu() { return memory::MenuText(desktop.menus, shellMenu); }
+  bool Shows(std::wstring_view text) { return Menu().find(text) != std::wstring::npos; }
 
   /// The submenu behind the first entry of that caption, anywhere in the menu.
   MenuHandle Submenu(const std::wstring& caption) { return Find(shellMenu, caption); }
+  const std::vector<MenuEntry>& Entries(const std::wstring& caption = L"Orvane") {
+    return desktop.menus.Entries(Submenu(caption));
+  }
 
   std::wstring Open(const std::wstring& caption) {
     const MenuHandle submenu = Submenu(caption);
@@ -117,20 +115,19 @@ class RightClick {
     std::vector<std::wstring> boxes;
     for (const memory::Effect& effect : desktop.effects.All()) {
       if (effect.call != "MessageBox") continue;
-      std::map<std::string, std::wstring> fields;
-      for (const auto& [name, value] : effect.fields)
-        if (const auto* text = std::get_if<std::wstring>(&value)) fields[name] = *text;
-      boxes.push_back(fields["text"] + L" [" + fields["icon"] + L"]");
+      std::wstring& box = boxes.emplace_back();
+      for (const auto& [name, value] : effect.fields) {
+        if (name == "text") box += std::get<std::wstring>(value);
+        if (name == "icon") box += L" [" + std::get<std::wstring>(value) + L"]";
+      }
     }
     return boxes;
   }
 
   /// Checks the menu's identifiers and ends it as the shell does.
   void End() {
-    if (handler && shellMenu != MenuHandle::None) {
-      std::set<std::uint32_t> seen;
-      Verify(shellMenu, seen);
-    }
+    std::set<std::uint32_t> seen;
+    if (handler && shellMenu != MenuHandle::None) Verify(shellMenu, seen);
     if (desktop.menus.Exists(shellMenu)) desktop.menus.Destroy(shellMenu);
     shellMenu = MenuHandle::None;
     handler.reset();
@@ -138,6 +135,7 @@ class RightClick {
   }
 
   memory::Desktop desktop;
+  Definition definition;
   std::optional<ModuleGlobals> globals;
   std::unique_ptr<ContextMenuHandler> handler;
   MenuHandle shellMenu = MenuHandle::None;
@@ -145,6 +143,14 @@ class RightClick {
   std::int32_t idLast = 32767;
 
  private:
+  void WriteDefinitionFile() {
+    memory::Desktop scribe;
+    const CodePage codePage(scribe.system.AnsiCharacters());
+    clsTrace debug(scribe.files, scribe.boxes, scribe.clock, scribe.locale, scribe.tcp, codePage);
+    const std::vector<std::byte> bytes = WriteDefinition(definition, codePage, debug);
+    Define({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+  }
+
   MenuHandle Find(MenuHandle menu, const std::wstring& caption) {
     for (const MenuEntry& entry : desktop.menus.Entries(menu)) {
       if (entry.submenu == MenuHandle::None) continue;

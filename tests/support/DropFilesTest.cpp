@@ -7,72 +7,48 @@
 namespace orvane {
 namespace {
 
-std::wstring DecodeAnsi(std::span<const std::byte> bytes) {
-  std::wstring text;
-  for (const std::byte byte : bytes) text += static_cast<wchar_t>(byte);
-  return text;
-}
+using namespace std::literals;
 
-std::vector<std::byte> Block(std::uint32_t offset, bool wide, std::wstring_view text) {
+/// The names in a block of `list`, each followed by "|"; "none" when the block is damaged.
+std::wstring Names(std::uint32_t offset, bool wide, std::span<const std::byte> list) {
   std::vector<std::byte> block(20);
   for (std::size_t i = 0; i < 4; ++i) block[i] = static_cast<std::byte>(offset >> 8 * i);
   block[16] = static_cast<std::byte>(wide);
-  if (wide) {
-    const auto bytes = ToUtf16(text);
-    block.insert(block.end(), bytes.begin(), bytes.end());
-  } else {
-    for (const wchar_t c : text) block.push_back(static_cast<std::byte>(c));
-  }
-  return block;
-}
-
-/// The names, each followed by "|"; "none" for a damaged block.
-std::wstring Names(const std::vector<std::byte>& block) {
-  const auto names = ReadDropFiles(block, DecodeAnsi);
+  block.insert(block.end(), list.begin(), list.end());
+  const auto names = ReadDropFiles(block, [](std::span<const std::byte> bytes) {
+    std::wstring text;
+    for (const std::byte byte : bytes) text += static_cast<wchar_t>(byte);
+    return text;
+  });
   if (!names) return L"none";
   std::wstring all;
-  for (auto rest = names->All(); !rest.empty();) {
-    all += std::wstring(FileNames::Take(rest)) + L"|";
-  }
+  for (auto rest = names->All(); !rest.empty();) all += std::wstring(FileNames::Take(rest)) + L"|";
   return all;
 }
 
 TEST(DropFiles, ReadsWideAndAnsiLists) {
-  using namespace std::literals;
-  struct Row {
+  const struct {
     std::uint32_t offset;
-    std::wstring_view text;
+    std::wstring_view list;
     std::wstring_view names;
+  } rows[] = {
+      {20, L"C:\\a\0C:\\\u05d0 c\0\0"sv, L"C:\\a|C:\\\u05d0 c|"},
+      {20, L"C:\\a\0\0C:\\after the end\0\0"sv, L"C:\\a|"},
+      {20, L"C:\\a\0"sv, L"C:\\a|"},  // no closing zero
+      {20, L"C:\\a\0C:\\no end"sv, L"none"},
+      {20, L"", L""},
+      {24, L"??C:\\a\0\0"sv, L"C:\\a|"},
+      {19, L"C:\\a\0\0"sv, L"none"},
+      {0xFFFFFFFF, L"C:\\a\0\0"sv, L"none"},
   };
-  for (const Row& row : {
-           Row{20, L"C:\\a\0C:\\b c\0\0"sv, L"C:\\a|C:\\b c|"sv},
-           Row{20, L"C:\\a\0\0C:\\after the end\0\0"sv, L"C:\\a|"sv},
-           Row{20, L"C:\\a\0"sv, L"C:\\a|"sv},  // no closing zero
-           Row{20, L"C:\\a\0C:\\no end"sv, L"none"sv},
-           Row{20, L"C:\\no end"sv, L"none"sv},
-           Row{20, L"\0"sv, L""sv},
-           Row{20, L""sv, L""sv},
-           Row{24, L"????C:\\a\0\0"sv, L"C:\\a|"sv},
-           Row{19, L"C:\\a\0\0"sv, L"none"sv},
-           Row{0, L"C:\\a\0\0"sv, L"none"sv},
-           Row{1000, L"C:\\a\0\0"sv, L"none"sv},
-           Row{0xFFFFFFFF, L"C:\\a\0\0"sv, L"none"sv},
-       }) {
-    std::wstring text(row.text);
-    EXPECT_EQ(Names(Block(row.offset, false, text)), row.names);
-    if (row.offset == 24) text.erase(0, 2);  // the gap is in bytes
-    EXPECT_EQ(Names(Block(row.offset, true, text)), row.names);
+  for (const auto& row : rows) {
+    auto list = ToUtf16(row.list);
+    EXPECT_EQ(Names(row.offset, true, list), row.names);
+    list.push_back(std::byte{'x'});  // half a character
+    EXPECT_EQ(Names(row.offset, true, list), row.names);
   }
-  EXPECT_EQ(Names(Block(20, true, L"C:\\\u05d0\0\0"sv)), L"C:\\\u05d0|");
-  EXPECT_EQ(Names(std::vector<std::byte>(19)), L"none");
-  EXPECT_EQ(Names({}), L"none");
-}
-
-TEST(DropFiles, AnOddByteAtTheEndIsNoCharacter) {
-  using namespace std::literals;
-  auto block = Block(20, true, L"C:\\a\0"sv);
-  block.push_back(std::byte{'x'});
-  EXPECT_EQ(Names(block), L"C:\\a|");
+  EXPECT_EQ(Names(22, false, std::as_bytes(std::span("??C:\\a\0C:\\b\0"))), L"C:\\a|C:\\b|");
+  EXPECT_FALSE(ReadDropFiles(std::vector<std::byte>(19), {}));
 }
 
 }  // namespace
