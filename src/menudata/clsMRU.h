@@ -27,9 +27,9 @@ class clsMRU {
   std::int32_t FileCount() const { return m_count; }
   const std::wstring& File(std::int32_t index) const;  // 1-based; Error 9 beyond the slots
   bool FileExists(std::int32_t index) const { return !File(index).empty(); }
-  /// Whether changes go to an attached menu control instead of being saved at once.
   /// Whether it differs from what the registry has: it changed after the last Load or Save.
   bool IsUnsaved() const { return m_unsaved; }
+  /// Whether changes go to an attached menu control instead of being saved at once.
   bool UserInterface() const { return m_userInterface; }
   void UserInterface(bool on) { m_userInterface = on; }
   /// The control that UpdateFileMenu fills, or null; the caller's.
