@@ -8,34 +8,18 @@
 #include <memory>
 
 #include "platform/win32/NativeHandles.h"
+#include "platform/win32/UniqueHandle.h"
 
 namespace orvane::win32 {
 namespace {
 
 constexpr DWORD MaxPath = 32768;
 
-class UniqueHandle {
- public:
-  explicit UniqueHandle(HANDLE handle)
-      : m_handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
-  ~UniqueHandle() {
-    if (m_handle) CloseHandle(m_handle);
-  }
-  UniqueHandle(const UniqueHandle&) = delete;
-  UniqueHandle& operator=(const UniqueHandle&) = delete;
-
-  HANDLE get() const { return m_handle; }
-  explicit operator bool() const { return m_handle != nullptr; }
-
- private:
-  HANDLE m_handle;
-};
-
 /// Walks a tool-help snapshot with its pair of functions.
 template <class Record, class Visit>
 void Walk(DWORD what, std::uint32_t process, BOOL(WINAPI* first)(HANDLE, Record*),
           BOOL(WINAPI* next)(HANDLE, Record*), Visit visit) {
-  const UniqueHandle snapshot(CreateToolhelp32Snapshot(what, process));
+  const auto snapshot = TakeHandle<UniqueKernelHandle>(CreateToolhelp32Snapshot(what, process));
   if (!snapshot) return;
   Record record{};
   record.dwSize = sizeof record;
@@ -87,7 +71,7 @@ std::vector<std::uint32_t> Processes::Ids() {
 }
 
 std::wstring Processes::Executable(std::uint32_t process) {
-  const UniqueHandle handle(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process));
+  const UniqueKernelHandle handle(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process));
   if (!handle) return {};
   const auto path = std::make_unique_for_overwrite<wchar_t[]>(MaxPath);
   DWORD length = MaxPath;
