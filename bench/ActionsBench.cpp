@@ -7,7 +7,7 @@
 
 #include "customactions/clsCustomActions.h"
 #include "customactions/clsProcess.h"
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 #include "support/CodePage.h"
 
 namespace orvane {

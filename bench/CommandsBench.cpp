@@ -11,8 +11,8 @@
 #endif
 
 #include "commands/frmClipboardProgress.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
+#include "memory/DataObject.h"
+#include "memory/Desktop.h"
 
 namespace orvane {
 namespace {

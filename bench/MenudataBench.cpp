@@ -5,8 +5,8 @@
 #include <random>
 #include <string>
 
+#include "memory/Desktop.h"
 #include "menudata/Definition.h"
-#include "platform/memory/Desktop.h"
 
 namespace orvane {
 namespace {

@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
+#include "memory/DataObject.h"
+#include "memory/Desktop.h"
 #include "menudata/Definition.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
 #include "shellext/ContextMenuHandler.h"
 
 namespace orvane {

@@ -2,8 +2,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "platform/memory/Desktop.h"
-#include "platform/memory/Windows1252.h"
+#include "memory/Desktop.h"
+#include "memory/Windows1252.h"
 #include "support/ThreadState.h"
 #include "support/Trace.h"
 #include "support/clsTrace.h"

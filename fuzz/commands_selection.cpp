@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "commands/frmClipboardProgress.h"
+#include "memory/DataObject.h"
+#include "memory/Desktop.h"
 #include "menudata/ShellPaths.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
 #include "support/Text.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/memory/Locale.h"
+#include "memory/Locale.h"
 #include "support/DateFormat.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "memory/Desktop.h"
 #include "menudata/Definition.h"
-#include "platform/memory/Desktop.h"
 
 namespace {
 

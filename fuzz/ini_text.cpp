@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "platform/memory/Windows1252.h"
+#include "memory/Windows1252.h"
 #include "support/IniText.h"
 #include "support/Text.h"
 

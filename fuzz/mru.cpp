@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <span>
 
+#include "memory/Desktop.h"
 #include "menudata/clsMRU.h"
 #include "menudata/clsOrvaneDataTools.h"
-#include "platform/memory/Desktop.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "platform/memory/RegFile.h"
+#include "memory/RegFile.h"
 #include "support/Error.h"
 
 namespace {

@@ -7,12 +7,12 @@
 #include <span>
 #include <utility>
 
-#include "platform/win32/DataObject.h"
-#include "platform/win32/NativeHandles.h"
-#include "platform/win32/NativeItemIdList.h"
 #include "server/Guarded.h"
 #include "server/InvokeRecord.h"
 #include "server/MenuMessages.h"
+#include "win32/DataObject.h"
+#include "win32/NativeHandles.h"
+#include "win32/NativeItemIdList.h"
 
 namespace orvane::server {
 namespace {

@@ -1,7 +1,7 @@
 #include "server/CopyToDialog.h"
 
-#include "platform/win32/NativeHandles.h"
 #include "server/DialogIds.h"
+#include "win32/NativeHandles.h"
 
 namespace orvane::server {
 namespace {

@@ -1,8 +1,8 @@
 #include "server/Dialogs.h"
 
-#include "platform/win32/NativeHandles.h"
 #include "server/CopyToDialog.h"
 #include "server/ProgressDialog.h"
+#include "win32/NativeHandles.h"
 
 namespace orvane::server {
 

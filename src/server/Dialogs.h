@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "platform/win32/Dialogs.h"
+#include "win32/Dialogs.h"
 
 namespace orvane::server {
 

@@ -8,12 +8,12 @@
 
 #include "graphics/clsPaintEffects.h"
 #include "graphics/clsQuickGDI.h"
-#include "platform/win32/Gdi.h"
 #include "server/Automation.h"
 #include "server/AutomationInterfaces.h"
 #include "server/Guarded.h"
 #include "server/Guid.h"
 #include "server/Module.h"
+#include "win32/Gdi.h"
 
 namespace orvane::server {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <span>
 
-#include "platform/win32/NativeHandles.h"
+#include "win32/NativeHandles.h"
 
 namespace orvane::server {
 namespace {

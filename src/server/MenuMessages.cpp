@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "graphics/MenuItemMessages.h"
-#include "platform/win32/NativeHandles.h"
+#include "win32/NativeHandles.h"
 
 namespace orvane::server {
 namespace {

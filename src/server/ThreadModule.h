@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/win32/Desktop.h"
 #include "server/Dialogs.h"
 #include "shellext/ModuleGlobals.h"
+#include "win32/Desktop.h"
 
 namespace orvane::server {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/memory/Windows1252.h"
+#include "memory/Windows1252.h"
 
 namespace orvane {
 namespace {

@@ -9,8 +9,8 @@
 
 #include "commands/CommandContext.h"
 #include "customactions/clsProcess.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
+#include "memory/DataObject.h"
+#include "memory/Desktop.h"
 #include "support/ThreadState.h"
 #include "support/clsTrace.h"
 

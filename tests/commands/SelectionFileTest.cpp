@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 
 namespace orvane {
 namespace {

@@ -10,8 +10,8 @@
 #include <fstream>
 
 #include "commands/frmClipboardProgress.h"
-#include "platform/memory/DataObject.h"
-#include "platform/win32/FileSystem.h"
+#include "memory/DataObject.h"
+#include "win32/FileSystem.h"
 
 namespace orvane {
 namespace {

@@ -4,13 +4,13 @@
 
 #include <string>
 
-#include "platform/memory/Faults.h"
-#include "platform/memory/Gdi.h"
+#include "memory/Faults.h"
+#include "memory/Gdi.h"
 #ifdef _WIN32
 #include <windows.h>
 
-#include "platform/win32/Gdi.h"
-#include "platform/win32/NativeHandles.h"
+#include "win32/Gdi.h"
+#include "win32/NativeHandles.h"
 #endif
 
 namespace orvane::test {

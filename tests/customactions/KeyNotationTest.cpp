@@ -6,7 +6,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include "platform/win32/Keyboard.h"
+#include "win32/Keyboard.h"
 #endif
 
 namespace orvane {

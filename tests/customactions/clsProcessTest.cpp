@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 #include "support/Error.h"
 
 namespace orvane {

@@ -7,7 +7,7 @@
 
 #include "graphics/MenuBitmaps.h"
 #include "graphics/OwnerDrawMenu.h"
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 
 namespace orvane::test {
 

@@ -10,8 +10,8 @@
 #include <stdexcept>
 
 #include "host/DialogScript.h"
-#include "platform/win32/NativeHandles.h"
 #include "server/DialogIds.h"
+#include "win32/NativeHandles.h"
 
 namespace orvane {
 namespace {

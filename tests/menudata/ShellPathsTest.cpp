@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 
 namespace orvane {
 namespace {

@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "memory/Desktop.h"
 #include "menudata/Definition.h"
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneDataTools.h"
-#include "platform/memory/Desktop.h"
 #include "support/CodePage.h"
 #include "support/ThreadState.h"
 #include "support/clsTrace.h"

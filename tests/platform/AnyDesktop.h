@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "memory/Desktop.h"
 #include "platform/ScratchFolder.h"
-#include "platform/memory/Desktop.h"
 #ifdef _WIN32
 #include <ole2.h>
 
-#include "platform/win32/Desktop.h"
+#include "win32/Desktop.h"
 #endif
 
 namespace orvane {

@@ -1,10 +1,10 @@
-#include "platform/memory/DataObject.h"
+#include "memory/DataObject.h"
 
 #include "platform/AnyDesktop.h"
 #ifdef _WIN32
 #include <shlobj.h>
 
-#include "platform/win32/DataObject.h"
+#include "win32/DataObject.h"
 #endif
 
 namespace orvane {

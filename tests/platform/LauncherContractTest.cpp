@@ -2,8 +2,8 @@
 #ifdef _WIN32
 #include <shlobj.h>
 
-#include "platform/win32/NativeHandles.h"
-#include "platform/win32/NativeItemIdList.h"
+#include "win32/NativeHandles.h"
+#include "win32/NativeItemIdList.h"
 #endif
 
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "platform/memory/RegFile.h"
+#include "memory/RegFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include "platform/win32/NativeHandles.h"
+#include "win32/NativeHandles.h"
 #endif
 
 namespace orvane {

@@ -5,9 +5,9 @@
 #include <chrono>
 
 #ifdef _WIN32
-#include "platform/win32/Tcp.h"
+#include "win32/Tcp.h"
 #else
-#include "platform/memory/Tcp.h"
+#include "memory/Tcp.h"
 #endif
 
 namespace orvane {

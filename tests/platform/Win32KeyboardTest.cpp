@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "platform/win32/Keyboard.h"
 #include "support/Utf16.h"
+#include "win32/Keyboard.h"
 
 namespace orvane {
 namespace {

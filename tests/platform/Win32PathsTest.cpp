@@ -1,8 +1,8 @@
 #ifdef _WIN32
 #include <gtest/gtest.h>
 
-#include "platform/win32/NativePath.h"
-#include "platform/win32/Patience.h"
+#include "win32/NativePath.h"
+#include "win32/Patience.h"
 
 namespace orvane::win32 {
 namespace {

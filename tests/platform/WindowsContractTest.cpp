@@ -3,7 +3,7 @@
 #include <latch>
 #include <thread>
 
-#include "platform/win32/NativeHandles.h"
+#include "win32/NativeHandles.h"
 #endif
 
 namespace orvane {

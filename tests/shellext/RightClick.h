@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
+#include "memory/DataObject.h"
+#include "memory/Desktop.h"
+#include "memory/MenuText.h"
 #include "menudata/Definition.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/Desktop.h"
-#include "platform/memory/MenuText.h"
 #include "shellext/ContextMenuHandler.h"
 
 namespace orvane::test {

@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-#include "platform/memory/Locale.h"
+#include "memory/Locale.h"
 
 namespace orvane {
 namespace {

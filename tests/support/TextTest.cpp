@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/Windows1252.h"
+#include "memory/Windows1252.h"
 #include "support/CodePage.h"
 #include "support/Utf16.h"
 #include "support/Utf8.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/Windows1252.h"
+#include "memory/Windows1252.h"
 #include "support/Error.h"
 
 namespace orvane {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <span>
 
-#include "platform/memory/Desktop.h"
-#include "platform/memory/Windows1252.h"
+#include "memory/Desktop.h"
+#include "memory/Windows1252.h"
 #include "support/ErrorOf.h"
 #include "support/ThreadState.h"
 #include "support/Trace.h"

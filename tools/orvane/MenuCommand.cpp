@@ -8,8 +8,8 @@
 
 #include "HostFile.h"
 #include "MenuDocument.h"
+#include "memory/Desktop.h"
 #include "menudata/Definition.h"
-#include "platform/memory/Desktop.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {

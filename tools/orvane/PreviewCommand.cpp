@@ -6,7 +6,7 @@
 
 #include "PreviewJson.h"
 #include "PreviewSession.h"
-#include "platform/memory/MenuText.h"
+#include "memory/MenuText.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "HostFile.h"
-#include "platform/memory/DataObject.h"
-#include "platform/memory/RegFile.h"
+#include "memory/DataObject.h"
+#include "memory/RegFile.h"
 #include "support/Text.h"
 #include "support/Utf8.h"
 

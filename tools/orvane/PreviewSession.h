@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/memory/Desktop.h"
+#include "memory/Desktop.h"
 #include "shellext/ContextMenuHandler.h"
 
 namespace orvane::tool {

@@ -1,0 +1,1 @@
+// Nothing: a target needs a source for its headers to be precompiled.

@@ -1,0 +1,63 @@
+#include "memory/Launcher.h"
+
+#include "support/FullPath.h"
+
+namespace orvane::memory {
+namespace {
+
+constexpr std::int32_t Started = 42;  // any code above 32 is a success
+constexpr std::int32_t OutOfMemory = 0;
+constexpr auto NullPointer = static_cast<std::int32_t>(0x80004003);  // E_POINTER
+constexpr std::uint32_t Patience = 1000;                             // milliseconds
+
+}  // namespace
+
+std::int32_t Launcher::Open(const Execution& execution) {
+  if (m_faults.Hit()) return OutOfMemory;
+  m_effects.Add({"ShellExecute",
+                 {{"verb", execution.verb},
+                  {"file", execution.file},
+                  {"parameters", execution.parameters},
+                  {"directory", execution.directory},
+                  {"show", std::int64_t{execution.show}}}});
+  const auto failure = failures.find(execution.file);
+  return failure == failures.end() ? Started : failure->second;
+}
+
+bool Launcher::OpenEx(const Execution& execution) {
+  if (m_faults.Hit()) return false;
+  m_effects.Add({"ShellExecuteEx",
+                 {{"verb", execution.verb},
+                  {"file", execution.file},
+                  {"parameters", execution.parameters},
+                  {"directory", execution.directory},
+                  {"show", std::int64_t{execution.show}},
+                  {"class", execution.className},
+                  {"item", m_shell.Text(execution.item)}}});
+  return !failures.contains(execution.file);
+}
+
+bool Launcher::Start(const std::wstring& program, const std::wstring& commandLine,
+                     const std::wstring& directory) {
+  if (m_faults.Hit() || !IsFullPath(program) || failures.contains(program)) return false;
+  m_effects.Add({"CreateProcess", {{"command", commandLine}, {"directory", directory}}});
+  return true;
+}
+
+std::intptr_t Launcher::ShellBrowser(WindowHandle window) {
+  return m_windows.Send(window, GetShellBrowser, 0, 0, Patience).value_or(0);
+}
+
+std::int32_t Launcher::BrowseObject(std::intptr_t shellBrowser, const ItemIdList& item) {
+  if (m_faults.Hit() || shellBrowser == 0 || !item) return NullPointer;
+  const auto failure = browserFailures.find(shellBrowser);
+  if (failure != browserFailures.end()) return failure->second;
+  m_effects.Add({"BrowseObject", {{"item", m_shell.Text(item)}}});
+  return 0;
+}
+
+void Launcher::BrowsingDone(WindowHandle window) {
+  m_windows.Send(window, BrowserMoved, 0, 0, Patience);
+}
+
+}  // namespace orvane::memory

@@ -1,0 +1,117 @@
+#include "win32/ShellIcons.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <commoncontrols.h>
+#include <shellapi.h>
+#include <shlwapi.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
+
+#include "win32/NativeHandles.h"
+
+namespace orvane::win32 {
+namespace {
+
+/// No message box about a drive without a disk while it lives.
+class QuietDrives {
+ public:
+  QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &m_before); }
+  ~QuietDrives() { SetThreadErrorMode(m_before, nullptr); }
+  QuietDrives(const QuietDrives&) = delete;
+  QuietDrives& operator=(const QuietDrives&) = delete;
+
+ private:
+  DWORD m_before = 0;
+};
+
+std::optional<SystemIcon> Ask(const std::wstring& path, DWORD attributes, UINT how) {
+  QuietDrives quiet;
+  SHFILEINFOW info{};
+  const DWORD_PTR imageList = SHGetFileInfoW(path.c_str(), attributes, &info, sizeof info,
+                                             SHGFI_SYSICONINDEX | SHGFI_SMALLICON | how);
+  if (imageList == 0) return std::nullopt;
+  return SystemIcon{imageList, info.iIcon};
+}
+
+/// A text that the registry holds for the extension; empty when it holds none.
+std::wstring Association(ASSOCSTR what, const std::wstring& extension, const wchar_t* extra) {
+  std::array<wchar_t, 512> text{};
+  DWORD size = static_cast<DWORD>(text.size());
+  if (AssocQueryStringW(ASSOCF_NONE, what, extension.c_str(), extra, text.data(), &size) != S_OK)
+    return {};
+  return text.data();
+}
+
+/// Owns a COM interface.
+class ImageList {
+ public:
+  explicit ImageList(int list) {
+    if (FAILED(SHGetImageList(list, __uuidof(IImageList), reinterpret_cast<void**>(&m_list))))
+      m_list = nullptr;
+  }
+  ~ImageList() {
+    if (m_list) m_list->Release();
+  }
+  ImageList(const ImageList&) = delete;
+  ImageList& operator=(const ImageList&) = delete;
+
+  /// Width of its icons; 0 when the list is not there.
+  int Width() const {
+    int width = 0;
+    int height = 0;
+    return m_list && SUCCEEDED(m_list->GetIconSize(&width, &height)) ? width : 0;
+  }
+
+  HICON Copy(int index) const {
+    HICON icon = nullptr;
+    return m_list && SUCCEEDED(m_list->GetIcon(index, ILD_NORMAL, &icon)) ? icon : nullptr;
+  }
+
+ private:
+  IImageList* m_list = nullptr;
+};
+
+}  // namespace
+
+std::optional<SystemIcon> ShellIcons::Find(const std::wstring& path) {
+  if (path.empty()) return std::nullopt;  // the desktop, to the shell
+  return Ask(path, 0, 0);
+}
+
+std::optional<SystemIcon> ShellIcons::FindFileKind(const std::wstring& extension) {
+  return Ask(L"file" + extension, FILE_ATTRIBUTE_NORMAL, SHGFI_USEFILEATTRIBUTES);
+}
+
+std::optional<SystemIcon> ShellIcons::FindFolderKind() {
+  return Ask(L"folder", FILE_ATTRIBUTE_DIRECTORY, SHGFI_USEFILEATTRIBUTES);
+}
+
+bool ShellIcons::HasOwnIcons(const std::wstring& extension) {
+  // What the shell knows by itself; the rest says so in the registry.
+  static constexpr std::wstring_view Known[] = {L".exe", L".lnk", L".url", L".ico",
+                                                L".cur", L".ani", L".scr", L".pif"};
+  if (extension.empty()) return false;
+  if (std::ranges::find(Known, extension) != std::end(Known)) return true;
+  return Association(ASSOCSTR_DEFAULTICON, extension, nullptr).find(L"%1") != std::wstring::npos ||
+         !Association(ASSOCSTR_SHELLEXTENSION, extension, L"IconHandler").empty();
+}
+
+IconHandle ShellIcons::Take(const SystemIcon& icon, std::int32_t size) {
+  // An icon has the same index in each of the system's lists.
+  for (int list : {SHIL_SMALL, SHIL_LARGE, SHIL_EXTRALARGE}) {
+    const ImageList images(list);
+    if (images.Width() >= size) return FromNative<IconHandle>(images.Copy(icon.index));
+  }
+  return FromNative<IconHandle>(ImageList(SHIL_EXTRALARGE).Copy(icon.index));
+}
+
+void ShellIcons::FreeIcon(IconHandle icon) {
+  DestroyIcon(ToNative<HICON>(icon));
+}
+
+}  // namespace orvane::win32
