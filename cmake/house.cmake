@@ -26,6 +26,10 @@ if(ORVANE_SANITIZE)
   add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined
                       -fno-sanitize-recover=undefined)
   add_link_options(-fsanitize=address,undefined)
+elseif(ORVANE_FUZZ)
+  add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=fuzzer-no-link,address,undefined
+                      -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=address,undefined)
 endif()
 
 # What nearly every source reads, read once: the standard library, for Windows its big header, and for

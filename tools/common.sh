@@ -4,6 +4,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc)
 
 native_packages=(g++ cmake ninja-build googletest libbenchmark-dev nlohmann-json3-dev libcli11-dev)
+fuzz_packages=(clang libclang-rt-dev)
+check_packages=(clang-format clang-tidy)
 wine_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 wine xvfb xauth xdotool imagemagick)
 
 say() { printf '== %s\n' "$*"; }
