@@ -9,10 +9,10 @@
 
 #include "server/Guarded.h"
 #include "server/InvokeRecord.h"
-#include "server/MenuMessages.h"
 #include "win32/DataObject.h"
 #include "win32/NativeHandles.h"
 #include "win32/NativeItemIdList.h"
+#include "windowing/MenuMessages.h"
 
 namespace orvane::server {
 namespace {
@@ -110,7 +110,7 @@ HRESULT ComContextMenuHandler::HandleMenuMsg2(UINT message, WPARAM wParam, LPARA
                                               LRESULT* result) noexcept {
   if (result) *result = 0;
   return Guarded(S_OK, [&] {
-    ForwardMenuMessage(m_handler, message, wParam, lParam, result);
+    windowing::ForwardMenuMessage(m_handler, message, wParam, lParam, result);
     return S_OK;
   });
 }

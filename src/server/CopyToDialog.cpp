@@ -6,12 +6,12 @@
 namespace orvane::server {
 namespace {
 
-using Layout = DialogLayout;
+using Layout = windowing::DialogLayout;
 constexpr unsigned Wider = Layout::Right;
 constexpr unsigned Along = Layout::Left | Layout::Right;
 constexpr unsigned AtCorner = Along | Layout::Top | Layout::Bottom;
 
-constexpr DialogLayout::Anchor Placing[] = {
+constexpr Layout::Anchor Placing[] = {
     {IDC_DESTINATION, Wider}, {IDC_BROWSE, Along},   {IDC_RECENT, Wider | Layout::Bottom},
     {IDC_SLOT + 0, Wider},    {IDC_SLOT + 1, Wider}, {IDC_SLOT + 2, Wider},
     {IDC_SLOT + 3, Wider},    {IDC_SLOT + 4, Wider}, {IDC_SLOT + 5, Wider},

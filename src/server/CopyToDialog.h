@@ -4,12 +4,12 @@
 #include <type_traits>
 
 #include "platform/Dialogs.h"
-#include "server/DialogWindow.h"
+#include "windowing/DialogWindow.h"
 
 namespace orvane::server {
 
 /// The window of Copy To and Move To.
-class CopyToDialog : private DialogWindow {
+class CopyToDialog : private windowing::DialogWindow {
  public:
   CopyToDialog(HINSTANCE module, CopyToModel& model);
 

@@ -7,9 +7,9 @@
 namespace orvane::server {
 namespace {
 
-using Layout = DialogLayout;
+using Layout = windowing::DialogLayout;
 
-constexpr DialogLayout::Anchor Placing[] = {
+constexpr Layout::Anchor Placing[] = {
     {IDC_AREA, Layout::Right | Layout::Bottom},
     {IDC_FOLDER, Layout::Right},
     {IDC_COUNT, Layout::Right},

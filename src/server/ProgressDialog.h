@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "server/DialogWindow.h"
+#include "windowing/DialogWindow.h"
 
 namespace orvane::server {
 
 /// The window of the selection list's progress.
-class ProgressDialog : private DialogWindow, private ProgressView {
+class ProgressDialog : private windowing::DialogWindow, private ProgressView {
  public:
   ProgressDialog(HINSTANCE module, ProgressModel& model);
 

@@ -7,9 +7,9 @@
 #include <span>
 #include <string>
 
-#include "server/DialogLayout.h"
+#include "windowing/DialogLayout.h"
 
-namespace orvane::server {
+namespace orvane::windowing {
 
 /// A modal, resizable dialog from a template of the module. What a handler throws ends the dialog
 /// and comes out of Show.
@@ -51,4 +51,4 @@ class DialogWindow {
   std::exception_ptr m_failure;
 };
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing

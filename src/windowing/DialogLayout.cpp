@@ -1,6 +1,6 @@
-#include "server/DialogLayout.h"
+#include "windowing/DialogLayout.h"
 
-namespace orvane::server {
+namespace orvane::windowing {
 namespace {
 
 SIZE ClientSize(HWND window) {
@@ -51,4 +51,4 @@ void DialogLayout::Limit(MINMAXINFO& limits) const {
   if (m_dialog) limits.ptMinTrackSize = m_window;
 }
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing

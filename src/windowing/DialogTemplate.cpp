@@ -1,10 +1,10 @@
-#include "server/DialogTemplate.h"
+#include "windowing/DialogTemplate.h"
 
 #include <cstdlib>
 #include <cwchar>
 #include <span>
 
-namespace orvane::server {
+namespace orvane::windowing {
 namespace {
 
 // Windows: DLGTEMPLATEEX documentation. Before the menu stand dlgVer, signature, helpID, exStyle,
@@ -65,4 +65,4 @@ std::vector<WORD> TemplateInMessageFont(HINSTANCE module, int resource) {
   return WithFont(words, metrics.lfMessageFont);
 }
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-namespace orvane::server {
+namespace orvane::windowing {
 
 /// Keeps a dialog's controls in place while it is resized.
 class DialogLayout {
@@ -40,4 +40,4 @@ class DialogLayout {
   std::vector<Place> m_places;
 };
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing

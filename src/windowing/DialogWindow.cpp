@@ -1,8 +1,8 @@
-#include "server/DialogWindow.h"
+#include "windowing/DialogWindow.h"
 
-#include "server/DialogTemplate.h"
+#include "windowing/DialogTemplate.h"
 
-namespace orvane::server {
+namespace orvane::windowing {
 namespace {
 
 /// The module's manifest in force: the dialog gets the controls of the present look, the moving
@@ -86,4 +86,4 @@ INT_PTR DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing

@@ -1,11 +1,11 @@
-#include "server/MenuMessages.h"
+#include "windowing/MenuMessages.h"
 
 #include <cstdint>
 
 #include "graphics/MenuItemMessages.h"
 #include "win32/NativeHandles.h"
 
-namespace orvane::server {
+namespace orvane::windowing {
 namespace {
 
 std::intptr_t Address(const void* record) {
@@ -52,4 +52,4 @@ void ForwardMenuMessage(ContextMenuHandler& handler, UINT message, WPARAM wParam
   if (result) *result = answer;
 }
 
-}  // namespace orvane::server
+}  // namespace orvane::windowing
