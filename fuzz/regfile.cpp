@@ -23,7 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::span bytes(reinterpret_cast<const std::byte*>(data), size);
   orvane::memory::Effects effects;
   orvane::memory::Faults faults;
-  orvane::memory::Registry registry(effects, faults);
+  orvane::memory::SystemInfo system;
+  orvane::memory::Registry registry(effects, faults, system);
   if (Import(bytes, registry) != Import(bytes, registry)) std::abort();
   if (!effects.All().empty()) std::abort();
   return 0;

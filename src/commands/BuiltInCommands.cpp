@@ -1,6 +1,7 @@
 #include "commands/BuiltInCommands.h"
 
 #include "commands/Opener.h"
+#include "commands/RecentItems.h"
 #include "commands/Warning.h"
 #include "customactions/KeyNotation.h"
 #include "menudata/ShellPaths.h"
@@ -42,8 +43,7 @@ void AddToQuickAccess(const CommandContext& context) {
   item.m_lType = isFile ? clsOrvaneData::TypeFile : clsOrvaneData::TypeFolder;
   item.Location(isFile ? context.CurrentFile : context.CurrentFolder);
   item.Caption(GetDisplayName(context.platform.shell, item.Location()));
-  if (!IsListed(context, item))
-    context.g_QuickAccessMRU.AddFile(context.tools.CreateHistoryMRU(item));
+  if (!IsListed(context, item)) Remember(context, context.g_QuickAccessMRU, item);
 }
 
 void StartDesigner(const CommandContext& context, WindowHandle window) {

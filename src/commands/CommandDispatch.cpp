@@ -10,6 +10,7 @@
 #include "commands/CopyOrMove.h"
 #include "commands/FolderCommand.h"
 #include "commands/Opener.h"
+#include "commands/RecentItems.h"
 #include "commands/SelectionTask.h"
 #include "commands/Warning.h"
 #include "commands/frmClipboardProgress.h"
@@ -47,7 +48,7 @@ void ResetList(clsMRU& list) {
 }
 
 void OpenFileItem(const Call& call, Data& item) {
-  call.context.g_HistoryMRU.AddFile(call.context.tools.CreateHistoryMRU(item));
+  Remember(call.context, call.context.g_HistoryMRU, item);
   MakeOpener(call).OpenFile(item.m_szFile_Location, call.window);
 }
 

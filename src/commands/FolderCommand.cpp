@@ -2,6 +2,7 @@
 
 #include "commands/Browser.h"
 #include "commands/HostWindow.h"
+#include "commands/RecentItems.h"
 #include "commands/Warning.h"
 #include "customactions/clsProcess.h"
 #include "menudata/ShellPaths.h"
@@ -24,7 +25,7 @@ FolderCommand::FolderCommand(const CommandContext& context, WindowHandle window)
 void FolderCommand::Run(const clsOrvaneData& item, bool bCtrlPressed, bool bShiftPressed) {
   if (!Find(item)) return;
   Log(L"pidlAddress=", Hex(m_pidl.bytes.data()));
-  m_context.g_HistoryMRU.AddFile(m_context.tools.CreateHistoryMRU(item));
+  Remember(m_context, m_context.g_HistoryMRU, item);
   if (item.OptionsIsBrowseAndOpen() || (bCtrlPressed && bShiftPressed))
     BrowseAndOpen();
   else if (item.OptionsIsExploreInNewWindow() || bCtrlPressed)

@@ -53,8 +53,7 @@ bool frmCopyTo::Accept(const std::wstring& destination) {
     Warn(m_services.boxes, L"Destination folder does not exist!");
     return false;
   }
-  m_services.g_CopyToMRU.AddFile(destination);
-  m_services.g_CopyToMRU.Save();
+  m_services.g_CopyToMRU.Remember(destination);
   m_szDest = destination;
   m_bOk = true;
   return true;

@@ -64,7 +64,7 @@ struct Desktop {
   SystemInfo system;
   FileSystem files{clock, effects, faults};
   ProfileFiles profiles{files};
-  Registry registry{effects, faults};
+  Registry registry{effects, faults, system};
   Tcp tcp{faults};
   Menus menus{faults};
   Windows windows{effects, faults};

@@ -86,6 +86,8 @@ class Registry::Key : public RegistryKey {
     const auto found = values->find(LowerCase(name));
     if (found == values->end()) return NotFound;
     value = found->second;
+    if (value.type == RegistryValue::TextToExpand)
+      value = TextValue(m_registry.m_system.Expand(TextOf(value)));
     return 0;
   }
 

@@ -7,6 +7,7 @@
 
 #include "memory/Effects.h"
 #include "memory/Faults.h"
+#include "memory/SystemInfo.h"
 #include "platform/Registry.h"
 
 namespace orvane::memory {
@@ -16,7 +17,8 @@ namespace orvane::memory {
 /// recorded as effects ("RegSet"); those that a test puts there are not.
 class Registry : public orvane::Registry {
  public:
-  Registry(Effects& effects, Faults& faults) : m_effects(effects), m_faults(faults) {}
+  Registry(Effects& effects, Faults& faults, SystemInfo& system)
+      : m_effects(effects), m_faults(faults), m_system(system) {}
 
   std::int32_t OpenToRead(Hive hive, const std::wstring& path,
                           std::unique_ptr<RegistryKey>& key) override;
@@ -51,6 +53,7 @@ class Registry : public orvane::Registry {
 
   Effects& m_effects;
   Faults& m_faults;
+  SystemInfo& m_system;
   std::map<KeyName, Values> m_keys;
   std::set<KeyName> m_denied;
 };

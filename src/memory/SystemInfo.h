@@ -21,6 +21,9 @@ class SystemInfo : public orvane::SystemInfo {
 
   void SetEnvironment(const std::wstring& name, std::wstring value);
 
+  /// The text with the value of each variable in place of its name between two "%".
+  std::wstring Expand(const std::wstring& text);
+
   std::wstring computerName = L"WORKSHOP";
   std::wstring userName = L"Robin";
   std::wstring organisation = L"Workshop Ltd";

@@ -13,27 +13,20 @@ namespace {
 
 using Bytes = std::vector<std::byte>;
 
-/// The bytes of a value that must have the given type; empty when it has not, or is missing.
-std::int32_t ReadBytes(RegistryKey& key, const std::wstring& name, std::uint32_t type,
-                       Bytes& bytes) {
-  RegistryValue stored;
-  if (const std::int32_t error = key.Read(name, stored)) return error;
-  if (stored.type != type) return InvalidData;
-  bytes = std::move(stored.data);
-  return 0;
-}
+constexpr std::size_t FlagSize = 2;    // of kind "B", in bytes
+constexpr std::size_t NumberSize = 4;  // of REG_DWORD
 
 /// A little-endian number that must fill `size` bytes.
-std::int32_t ReadBits(RegistryKey& key, const std::wstring& name, std::uint32_t type,
-                      std::size_t size, std::uint32_t& bits) {
-  Bytes bytes;
-  if (const std::int32_t error = ReadBytes(key, name, type, bytes)) return error;
-  if (bytes.size() != size) return InvalidData;
+std::int32_t ReadBits(RegistryKey& key, const std::wstring& name, std::size_t size,
+                      std::uint32_t& bits) {
+  RegistryValue stored;
+  if (const std::int32_t error = key.Read(name, stored)) return error;
+  const bool binary = stored.type == RegistryValue::Binary;
+  const bool number = stored.type == RegistryValue::Number && size == NumberSize;
+  if (!(binary || number) || stored.data.size() != size) return InvalidData;
   bits = 0;
-  while (!bytes.empty()) {
-    bits = (bits << 8) | std::to_integer<std::uint32_t>(bytes.back());
-    bytes.pop_back();
-  }
+  for (; !stored.data.empty(); stored.data.pop_back())
+    bits = (bits << 8) | std::to_integer<std::uint32_t>(stored.data.back());
   return 0;
 }
 
@@ -45,38 +38,36 @@ Bytes BytesOf(std::uint32_t bits, std::size_t size) {
 
 std::int32_t ReadBinaryFlag(RegistryKey& key, const std::wstring& name, bool& value) {
   std::uint32_t bits = 0;
-  const std::int32_t error = ReadBits(key, name, RegistryValue::Binary, 2, bits);
+  const std::int32_t error = ReadBits(key, name, FlagSize, bits);
   if (!error) value = bits != 0;
   return error;
 }
 
 std::int32_t WriteBinaryFlag(RegistryKey& key, const std::wstring& name, bool value) {
-  return key.Write(name, {RegistryValue::Binary, BytesOf(value ? 0xFFFF : 0, 2)});
+  return key.Write(name, {RegistryValue::Binary, BytesOf(value ? 0xFFFF : 0, FlagSize)});
 }
 
 }  // namespace
 
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, std::wstring& value) {
-  Bytes bytes;
-  if (const std::int32_t error = ReadBytes(key, name, RegistryValue::Text, bytes)) return error;
-  if (bytes.size() % 2 != 0) return InvalidData;
-  std::wstring text = FromUtf16(bytes);
-  if (text.empty() || text.back() != L'\0') return InvalidData;
-  text.pop_back();
-  value = std::move(text);
+  RegistryValue stored;
+  if (const std::int32_t error = key.Read(name, stored)) return error;
+  if (stored.type != RegistryValue::Text || stored.data.size() % 2 != 0) return InvalidData;
+  value = FromUtf16(stored.data);
+  if (value.ends_with(L'\0')) value.pop_back();
   return 0;
 }
 
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, bool& value) {
   std::uint32_t bits = 0;
-  const std::int32_t error = ReadBits(key, name, RegistryValue::Number, 4, bits);
+  const std::int32_t error = ReadBits(key, name, NumberSize, bits);
   if (!error) value = bits != 0;
   return error;
 }
 
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, std::int32_t& value) {
   std::uint32_t bits = 0;
-  const std::int32_t error = ReadBits(key, name, RegistryValue::Number, 4, bits);
+  const std::int32_t error = ReadBits(key, name, NumberSize, bits);
   if (!error) value = static_cast<std::int32_t>(bits);
   return error;
 }
@@ -86,11 +77,12 @@ std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, const std::w
 }
 
 std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, bool value) {
-  return key.Write(name, {RegistryValue::Number, BytesOf(value, 4), true});
+  return key.Write(name, {RegistryValue::Number, BytesOf(value, NumberSize), true});
 }
 
 std::int32_t WriteValue(RegistryKey& key, const std::wstring& name, std::int32_t value) {
-  return key.Write(name, {RegistryValue::Number, BytesOf(static_cast<std::uint32_t>(value), 4)});
+  return key.Write(name,
+                   {RegistryValue::Number, BytesOf(static_cast<std::uint32_t>(value), NumberSize)});
 }
 
 namespace {

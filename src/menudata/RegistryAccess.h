@@ -16,8 +16,9 @@ constexpr std::int32_t InvalidHive = 99;
 constexpr std::int32_t InvalidData = 13;  // ERROR_INVALID_DATA: there, but not what was asked for
 
 // Typed values of an open key. The type of the variable says how a value is stored: a text as
-// REG_SZ with one terminating zero, a boolean as REG_DWORD 1 or 0, a number as REG_DWORD. Reading
-// leaves the variable as it was unless a value of just that form was found; a text may hold zeros.
+// REG_SZ with one terminating zero, a boolean as REG_DWORD 1 or 0, a number as REG_DWORD. What
+// other programs store is read too: a text without the zero or of no bytes, four bytes for a
+// number. Reading leaves the variable as it was when it finds anything else; a text may hold zeros.
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, std::wstring& value);
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, bool& value);
 std::int32_t ReadValue(RegistryKey& key, const std::wstring& name, std::int32_t& value);

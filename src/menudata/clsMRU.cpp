@@ -64,13 +64,19 @@ void clsMRU::AddFile(const std::wstring& text) {
     Save();
 }
 
+void clsMRU::Remember(const std::wstring& text) {
+  if (!m_unsaved) Load(MaxFileCount());
+  AddFile(text);
+  if (m_unsaved) Save();
+}
+
 bool clsMRU::Save() {
   std::unique_ptr<RegistryKey> key;
   if (m_registry.OpenToWrite(Hive::CurrentUser, m_path, key) == 0) {
     WriteValue(*key, CountValue, m_count);
     for (std::int32_t i = 1; i <= Used(); ++i) WriteValue(*key, EntryValue(i), File(i));
+    m_unsaved = false;
   }
-  m_unsaved = false;
   return true;
 }
 

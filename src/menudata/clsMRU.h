@@ -27,7 +27,7 @@ class clsMRU {
   std::int32_t FileCount() const { return m_count; }
   const std::wstring& File(std::int32_t index) const;  // 1-based; Error 9 beyond the slots
   bool FileExists(std::int32_t index) const { return !File(index).empty(); }
-  /// Whether it differs from what the registry has: it changed after the last Load or Save.
+  /// Whether it holds changes that the registry does not have.
   bool IsUnsaved() const { return m_unsaved; }
   /// Whether changes go to an attached menu control instead of being saved at once.
   bool UserInterface() const { return m_userInterface; }
@@ -38,6 +38,9 @@ class clsMRU {
   std::wstring MenuCaption(std::int32_t index, std::int32_t number) const;
   /// Puts the text in front; a text already there (whatever its case) moves up.
   void AddFile(const std::wstring& text);
+  /// The same to the list as the registry has it by now, where another window may have added too,
+  /// and saves it.
+  void Remember(const std::wstring& text);
   bool Save();
   bool Load(std::int32_t maximum);
   void Reset();

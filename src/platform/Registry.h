@@ -12,9 +12,10 @@ enum class Hive { ClassesRoot, CurrentUser, LocalMachine, Users, CurrentConfig, 
 
 /// A registry value as it is stored: texts are UTF-16LE with whatever zeros were written.
 struct RegistryValue {
-  static constexpr std::uint32_t Text = 1;    // REG_SZ
-  static constexpr std::uint32_t Binary = 3;  // REG_BINARY
-  static constexpr std::uint32_t Number = 4;  // REG_DWORD
+  static constexpr std::uint32_t Text = 1;          // REG_SZ
+  static constexpr std::uint32_t TextToExpand = 2;  // REG_EXPAND_SZ
+  static constexpr std::uint32_t Binary = 3;        // REG_BINARY
+  static constexpr std::uint32_t Number = 4;        // REG_DWORD
 
   std::uint32_t type = 0;
   std::vector<std::byte> data;
@@ -29,25 +30,22 @@ class RegistryKey {
 
   virtual ~RegistryKey() = default;
 
-  /// NotFound when the key has no value of that name. `value` stays untouched on failure.
+  /// NotFound when the key has no value of that name. `value` stays untouched on failure. A
+  /// TextToExpand is read as the Text that it stands for, with the environment's variables in it.
   virtual std::int32_t Read(const std::wstring& name, RegistryValue& value) = 0;
   virtual std::int32_t Write(const std::wstring& name, const RegistryValue& value) = 0;
 };
 
-/// The part of the registry that a reader needs.
-class RegistryReader {
+/// The registry: keys by hive and path, names compared without regard to case.
+class Registry {
  public:
-  virtual ~RegistryReader() = default;
+  virtual ~Registry() = default;
 
   /// Opens an existing key for reading; NotFound when there is none. `path` may end in "\".
   /// `key` stays untouched on failure.
   virtual std::int32_t OpenToRead(Hive hive, const std::wstring& path,
                                   std::unique_ptr<RegistryKey>& key) = 0;
-};
 
-/// The registry: keys by hive and path, names compared without regard to case.
-class Registry : public RegistryReader {
- public:
   /// Opens a key for writing and creates it, with the keys above it, when it is not there.
   virtual std::int32_t OpenToWrite(Hive hive, const std::wstring& path,
                                    std::unique_ptr<RegistryKey>& key) = 0;

@@ -35,12 +35,10 @@ std::wstring DescribeMenu(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t
          std::to_wstring(uFlags);
 }
 
-/// What another living handler of the thread has added stands nowhere else until the last one ends.
-void LoadUnlessUnsaved(clsMRU& list, std::int32_t maximum) {
-  if (list.IsUnsaved())
-    list.MaxFileCount(maximum);
-  else
-    list.Load(maximum);
+/// What could not be saved when it was added. A list without changes is left alone: another window
+/// may have stored more since.
+void SaveUnsaved(clsMRU& list) {
+  if (list.IsUnsaved()) list.Save();
 }
 
 void LogMessage(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam) {
@@ -76,8 +74,10 @@ void ContextMenuHandler::UserControl_Initialize() {
     m_globals.g_QuickAccessMRU.Path(QuickAccessKey);
     m_globals.g_HistoryMRU.Path(HistoryKey);
     m_globals.g_CopyToMRU.Path(CopyToKey);
-    LoadUnlessUnsaved(m_globals.g_HistoryMRU, options.m_lShellMaxHistoryMRU);
-    LoadUnlessUnsaved(m_globals.g_QuickAccessMRU, options.m_lShellMaxQuickAccessMRU);
+    SaveUnsaved(m_globals.g_HistoryMRU);
+    SaveUnsaved(m_globals.g_QuickAccessMRU);
+    m_globals.g_HistoryMRU.Load(options.m_lShellMaxHistoryMRU);
+    m_globals.g_QuickAccessMRU.Load(options.m_lShellMaxQuickAccessMRU);
     m_globals.g_CopyToMRU.Load(CopyToCount);
     if (options.m_lShellShowIcons > clsOptions::OptionLevel_None)
       LoadMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
@@ -111,8 +111,8 @@ void ContextMenuHandler::UserControl_Terminate() {
     Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
     if (--m_globals.g_lReferenceCount > 0) return;
     DestroyDynamicMenus();
-    m_globals.g_QuickAccessMRU.Save();
-    m_globals.g_HistoryMRU.Save();
+    SaveUnsaved(m_globals.g_QuickAccessMRU);
+    SaveUnsaved(m_globals.g_HistoryMRU);
   } catch (...) {
     scope.Caught();
   }

@@ -23,6 +23,8 @@ class CodePage {
   /// Into as many characters as there are bytes.
   void Decode(std::span<const std::byte> bytes, wchar_t* characters) const;
   std::vector<std::byte> Encode(std::wstring_view text) const;
+  /// Whether the text comes back from its bytes as it was.
+  bool Spells(std::wstring_view text) const { return Decode(Encode(text)) == text; }
 
  private:
   std::byte Encode(wchar_t character) const;

@@ -4,6 +4,9 @@
 
 #include <type_traits>
 
+#include "support/Utf16.h"
+#include "win32/GrowingText.h"
+
 namespace orvane::win32 {
 
 namespace {
@@ -13,11 +16,33 @@ struct KeyCloser {
 };
 using UniqueKey = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
 
+RegistryValue Expanded(const RegistryValue& value) {
+  const std::wstring text = FromUtf16(value.data);
+  std::wstring expanded = GrowingText([&text](wchar_t* buffer, DWORD size) {
+    return ExpandEnvironmentStringsW(text.c_str(), buffer, size);
+  });
+  if (!expanded.ends_with(L'\0')) expanded += L'\0';
+  return {RegistryValue::Text, ToUtf16(expanded)};
+}
+
 class Key : public RegistryKey {
  public:
   explicit Key(UniqueKey key) : m_key(std::move(key)) {}
 
   std::int32_t Read(const std::wstring& name, RegistryValue& value) override {
+    const std::int32_t error = ReadStored(name, value);
+    if (error == 0 && value.type == RegistryValue::TextToExpand) value = Expanded(value);
+    return error;
+  }
+
+  std::int32_t Write(const std::wstring& name, const RegistryValue& value) override {
+    return RegSetValueExW(m_key.get(), name.c_str(), 0, value.type,
+                          reinterpret_cast<const BYTE*>(value.data.data()),
+                          static_cast<DWORD>(value.data.size()));
+  }
+
+ private:
+  std::int32_t ReadStored(const std::wstring& name, RegistryValue& value) const {
     BYTE small[512];  // takes most values in one call
     DWORD type = 0;
     DWORD size = sizeof small;
@@ -39,13 +64,6 @@ class Key : public RegistryKey {
     return 0;
   }
 
-  std::int32_t Write(const std::wstring& name, const RegistryValue& value) override {
-    return RegSetValueExW(m_key.get(), name.c_str(), 0, value.type,
-                          reinterpret_cast<const BYTE*>(value.data.data()),
-                          static_cast<DWORD>(value.data.size()));
-  }
-
- private:
   UniqueKey m_key;
 };
 

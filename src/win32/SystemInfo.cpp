@@ -8,12 +8,12 @@ namespace orvane::win32 {
 
 namespace {
 
-constexpr UINT WesternPage = 1252;
-
-/// The ANSI code page, or the Western one where a byte is not always a character.
-UINT SingleBytePage() {
-  CPINFO info;
-  return GetCPInfo(CP_ACP, &info) && info.MaxCharSize == 1 ? GetACP() : WesternPage;
+/// The ANSI code page of the system's language, whatever this process has chosen.
+UINT SystemPage() {
+  DWORD page = 0;
+  GetLocaleInfoEx(LOCALE_NAME_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                  reinterpret_cast<wchar_t*>(&page), sizeof page / sizeof(wchar_t));
+  return page;
 }
 
 }  // namespace
@@ -68,12 +68,21 @@ std::int32_t SystemInfo::Module() {
   return static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(m_module) & 0xFFFFFFFF);
 }
 
+UINT SystemInfo::SingleBytePage(UINT processPage, UINT systemPage) {
+  constexpr UINT WesternPage = 1252;
+  for (const UINT page : {processPage, systemPage}) {
+    CPINFO info;
+    if (page != CP_ACP && GetCPInfo(page, &info) && info.MaxCharSize == 1) return page;
+  }
+  return WesternPage;
+}
+
 std::array<wchar_t, 256> SystemInfo::AnsiCharacters() {
   char bytes[256];
   for (std::size_t byte = 0; byte < std::size(bytes); ++byte) bytes[byte] = static_cast<char>(byte);
   std::array<wchar_t, 256> characters{};
-  MultiByteToWideChar(SingleBytePage(), 0, bytes, std::size(bytes), characters.data(),
-                      static_cast<int>(characters.size()));
+  MultiByteToWideChar(SingleBytePage(GetACP(), SystemPage()), 0, bytes, std::size(bytes),
+                      characters.data(), static_cast<int>(characters.size()));
   for (std::size_t byte = 0x80; byte < characters.size(); ++byte) {
     // Windows gives open bytes characters for private use, or a replacement that others share.
     wchar_t& character = characters[byte];

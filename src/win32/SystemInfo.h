@@ -21,6 +21,10 @@ class SystemInfo : public orvane::SystemInfo {
   std::int32_t Module() override;
   std::array<wchar_t, 256> AnsiCharacters() override;
 
+  /// The first of the two code pages, the process's and the system's, in which each byte is a
+  /// character, or the Western one: a process may have UTF-8 for its own.
+  static UINT SingleBytePage(UINT processPage, UINT systemPage);
+
  private:
   HINSTANCE m_module;
 };

@@ -29,7 +29,7 @@ class CopyOrMove : public testing::Test, protected Scene {
     for (auto& answer : answers) desktop.answers.Add(std::move(answer));
     CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None, selection.get(), copy,
                         destination);
-    return Effects("RegSet");
+    return Effects();
   }
 };
 

@@ -88,11 +88,11 @@ class Scene {
   }
 
   /// The effects since the last look, a line each: the call and those of its fields that say
-  /// something. Calls of the named kind are left out.
+  /// something. Calls of the named kind are left out, and what the lists store.
   Lines Effects(const std::string& without = "SendMessage") {
     Lines lines;
     for (const memory::Effect& effect : desktop.effects.All()) {
-      if (effect.call == without) continue;
+      if (effect.call == without || StoresList(effect)) continue;
       std::string line = effect.call;
       for (const auto& [name, value] : effect.fields) {
         const std::string text = ValueText(value);
@@ -142,6 +142,10 @@ class Scene {
   std::int32_t windowActions = 0;
 
  private:
+  static bool StoresList(const memory::Effect& effect) {
+    return effect.call == "RegSet" && ValueText(effect.fields.at(1).second).starts_with("Mru");
+  }
+
   clsTrace MakeTrace() {
     return clsTrace(desktop.files, desktop.boxes, desktop.clock, desktop.locale, desktop.tcp,
                     codePage);

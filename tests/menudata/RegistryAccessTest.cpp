@@ -31,7 +31,7 @@ struct RegistryAccessTest : testing::Test {
 constexpr std::uint32_t Sz = RegistryValue::Text;
 constexpr std::uint32_t Binary = RegistryValue::Binary;
 constexpr std::uint32_t Dword = RegistryValue::Number;
-constexpr std::uint32_t ExpandSz = 2;
+constexpr std::uint32_t ExpandSz = RegistryValue::TextToExpand;
 
 TEST_F(RegistryAccessTest, StoresEachKindInItsFormAndReadsItBack) {
   const struct {
@@ -67,13 +67,17 @@ TEST_F(RegistryAccessTest, ReadsValuesOfTheRightFormOnly) {
   };
   EXPECT_EQ(get(Dword, {0, 5, 0, 0}, L"BOOL"), RegValue(true));
   EXPECT_EQ(get(Binary, {0, 1}, L"B"), RegValue(true));
+  EXPECT_EQ(get(Binary, {1, 0, 0, 0}, L"D"), RegValue(1));
+  EXPECT_EQ(get(Binary, {0, 0, 1, 0}, L"BOOL"), RegValue(true));
+  EXPECT_EQ(get(Sz, {}, L"S"), RegValue(L""));
+  EXPECT_EQ(get(Sz, {'a', 0, 'b', 0}, L"S"), RegValue(L"ab"));
+  EXPECT_EQ(get(ExpandSz, {'%', 0, 'x', 0, '%', 0, 0, 0}, L"S"), RegValue(L"%x%"));
   EXPECT_EQ(get(Binary, {1}, L"B"), RegValue(L"-"));
   EXPECT_EQ(get(Dword, {1, 0, 0, 0}, L"B"), RegValue(L"-"));
-  EXPECT_EQ(get(Binary, {1, 0, 0, 0}, L"D"), RegValue(L"-"));
   EXPECT_EQ(get(Dword, {1, 0, 0, 0, 0}, L"D"), RegValue(L"-"));
-  EXPECT_EQ(get(Sz, {}, L"S"), RegValue(L"-"));
+  EXPECT_EQ(get(Sz, {1, 0, 0, 0}, L"D"), RegValue(L"-"));
   EXPECT_EQ(get(Sz, {'a', 0, 0, 0, 0}, L"S"), RegValue(L"-"));
-  EXPECT_EQ(get(ExpandSz, {'a', 0, 0, 0}, L"S"), RegValue(L"-"));
+  EXPECT_EQ(get(Binary, {'a', 0}, L"S"), RegValue(L"-"));
 }
 
 TEST_F(RegistryAccessTest, SaysWhatFailed) {

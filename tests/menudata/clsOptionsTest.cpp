@@ -89,11 +89,10 @@ TEST(clsOptions, LoadsEveryValueAndSavesIt) {
 }
 
 TEST(clsOptions, AValueOfTheWrongTypeCostsNoOtherValue) {
-  const RegistryValue wrong[] = {{2, {}},
-                                 {RegistryValue::Binary, std::vector<std::byte>(4)},
+  const RegistryValue wrong[] = {{7, {}},
+                                 {RegistryValue::Binary, std::vector<std::byte>(5)},
                                  {RegistryValue::Number, std::vector<std::byte>(3)},
-                                 {RegistryValue::Text, std::vector<std::byte>(3)},
-                                 {RegistryValue::Text, std::vector<std::byte>(4, std::byte{65})}};
+                                 {RegistryValue::Text, std::vector<std::byte>(3)}};
   for (const Row& spoilt : Rows) {
     for (const RegistryValue& value : wrong) {
       World world;

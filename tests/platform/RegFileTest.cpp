@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "memory/RegistryText.h"
 #include "support/Error.h"
 #include "support/Utf16.h"
 #include "support/Utf8.h"
@@ -46,7 +47,8 @@ class RegFile : public testing::Test {
 
   memory::Effects effects;
   memory::Faults faults;
-  memory::Registry registry{effects, faults};
+  memory::SystemInfo system;
+  memory::Registry registry{effects, faults, system};
 };
 
 TEST_F(RegFile, ReadsEveryKindOfValue) {
@@ -61,6 +63,7 @@ TEST_F(RegFile, ReadsEveryKindOfValue) {
          "\"binary\"=hex:01,2,\\\r\n  fF,\\\r\n  00\r\n"
          "\"empty\"=hex:\r\n"
          "\"typed\"=hex(1):41,00,00,00,42,00,00,00\r\n"
+         "\"expand\"=hex(2):25,00,54,00,45,00,4d,00,50,00,25,00,00,00\r\n"
          "\"multi\"=hex(7):61,00,00,00,00,00\n"
          "[HKEY_LOCAL_MACHINE\\Software\\B[1]]\n"
          "\"last\"=\"no line end\"");
@@ -73,6 +76,11 @@ TEST_F(RegFile, ReadsEveryKindOfValue) {
   EXPECT_TRUE(Holds(L"empty", 3, ""sv));
   EXPECT_TRUE(Holds(L"typed", 1, "\x41\x00\x00\x00\x42\x00\x00\x00"sv));
   EXPECT_TRUE(Holds(L"multi", 7, "\x61\x00\x00\x00\x00\x00"sv));
+  std::unique_ptr<RegistryKey> key;
+  RegistryValue expanded;
+  ASSERT_EQ(registry.OpenToRead(Hive::CurrentUser, L"Software\\A", key), 0);
+  EXPECT_EQ(key->Read(L"expand", expanded), 0);
+  EXPECT_EQ(memory::TextOf(expanded), L"C:\\Windows\\Temp");
   EXPECT_EQ(registry.FindText(Hive::LocalMachine, L"Software\\B[1]", L"last"), L"no line end");
   EXPECT_TRUE(effects.All().empty());
 }

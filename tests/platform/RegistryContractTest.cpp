@@ -1,4 +1,5 @@
 #include "platform/AnyDesktop.h"
+#include "support/Utf16.h"
 
 namespace orvane {
 namespace {
@@ -49,6 +50,24 @@ TEST_P(RegistryContract, KeepsValuesAsTheyWereWritten) {
     EXPECT_EQ(Read(Path, L"VALUE", read), 0);
     EXPECT_EQ(read.type, value.type);
     EXPECT_TRUE(read.data == value.data) << value.data.size();
+  }
+}
+
+TEST_P(RegistryContract, PutsTheEnvironmentIntoTexts) {
+  const std::wstring root = m_platform.system.Environment(L"SystemRoot");
+  const std::pair<std::wstring, std::wstring> rows[] = {
+      {L"%systemroot%\\a%SYSTEMROOT%", root + L"\\a" + root},
+      {L"100 % of %ORVANE_NONE% and %SystemRoot%", L"100 % of %ORVANE_NONE% and " + root},
+      {L"%", L"%"},
+      {L"%%", L"%%"},
+      {L"", L""},
+  };
+  for (const auto& [stored, expanded] : rows) {
+    EXPECT_EQ(Write(L"Value", {RegistryValue::TextToExpand, ToUtf16(stored)}), 0);
+    RegistryValue read;
+    EXPECT_EQ(Read(Path, L"Value", read), 0);
+    EXPECT_EQ(read.type, RegistryValue::Text);
+    EXPECT_EQ(FromUtf16(read.data), expanded + L'\0');
   }
 }
 

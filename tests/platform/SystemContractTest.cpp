@@ -81,6 +81,16 @@ TEST(Win32SystemInfo, ReadsLongVariables) {
   SetEnvironmentVariableW(L"ORVANE_LONG", nullptr);
 }
 
+TEST(Win32SystemInfo, TakesTheSystemsCodePageWhereTheProcessHasAnotherKind) {
+  const UINT rows[][3] = {{1252, 1251, 1252},
+                          {CP_UTF8, 1251, 1251},
+                          {CP_UTF8, CP_UTF8, 1252},
+                          {932, 932, 1252},
+                          {CP_UTF8, 0, 1252}};
+  for (const auto& [process, system, page] : rows)
+    EXPECT_EQ(win32::SystemInfo::SingleBytePage(process, system), page) << process;
+}
+
 TEST(Win32SystemInfo, AgreesWithTheMemoryDesktopOnPage1252) {
   if (GetACP() != 1252) GTEST_SKIP() << "another code page";
   EXPECT_EQ(win32::SystemInfo(nullptr).AnsiCharacters(), memory::SystemInfo().AnsiCharacters());

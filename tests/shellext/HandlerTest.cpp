@@ -82,16 +82,35 @@ TEST(CaptionSearch, LooksIntoSubmenusFromTheStartOn) {
   EXPECT_FALSE(found(L"", 0));
 }
 
-TEST(Handler, SavesTheListsWithTheLastOne) {
+TEST(Handler, StoresAListThatItChangedAndNoOther) {
   RightClick click;
+  clsMRU elsewhere(click.desktop.registry);
+  elsewhere.Path(std::wstring(SettingsKey) + L"ContextMenu\\HistoryMRU\\");
+  click.Click();
+  elsewhere.Load(5);
+  elsewhere.Remember(L"from another window");
+  click.End();
+  elsewhere.Load(5);
+  EXPECT_EQ(elsewhere.FileCount(), 1) << "overwritten";
+
   click.Click();
   click.globals->g_HistoryMRU.AddFile(L"entry");
-  click.desktop.effects.Clear();
   { ContextMenuHandler second(*click.globals); }
-  EXPECT_TRUE(click.desktop.effects.All().empty());
-  EXPECT_EQ(click.globals->g_HistoryMRU.FileCount(), 1) << "lost to the second one's loading";
-  click.End();
-  EXPECT_FALSE(click.desktop.effects.All().empty());
+  EXPECT_EQ(click.globals->g_HistoryMRU.FileCount(), 2) << "lost to the second one's loading";
+  elsewhere.Load(5);
+  EXPECT_EQ(elsewhere.File(1), L"entry");
+}
+
+TEST(Handler, BuildsItsMenuThoughAListHasBecomeShorter) {
+  RightClick click;
+  click.Set(L"ShellShowHistoryMRU", 2);
+  const Data item = Item(Data::TypeFile, L"a", L"C:\\a.txt");
+  click.Remember(L"HistoryMRU", {item, item, item, item});
+  click.Click();
+  click.globals->g_HistoryMRU.AddFile(L"not saved yet");
+  click.Set(L"ShelllMaxHistoryMRU", 3);
+  ContextMenuHandler second(*click.globals);
+  EXPECT_LE(click.globals->g_HistoryMRU.FileCount(), 3);
 }
 
 TEST(Handler, WritesTheDebugLogOfAMenu) {
