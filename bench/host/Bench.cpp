@@ -103,6 +103,7 @@ void BenchFolders(Scene& scene) {
   PrintHeader("dynamic folder, opened");
   scene.Set(L"ShellShowIcons", 3);
   scene.Set(L"ShellOwnerDraw", 1);
+  scene.Set(L"ShellIgnoreBoundsCheck", 1);  // more entries than identifiers are reserved for
   WriteDefinition(
       scene.Path(L"Menu.cfg"),
       {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}},

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-void CommandIds::ReserveDynamic() {
+void CommandIds::ReserveDynamic(bool unbounded) {
   m_dynamic = m_next;
   const std::int64_t left = m_last - m_next;
   if (left < 1001)
@@ -15,6 +15,7 @@ void CommandIds::ReserveDynamic() {
     m_next += 2500;
   else
     m_next += 5000;
+  if (!unbounded) m_dynamicLast = static_cast<std::int32_t>(m_next - 1);
 }
 
 }  // namespace orvane

@@ -257,7 +257,7 @@ void ContextMenuHandler::InsertRoot(UniqueMenu root, std::int32_t position) {
 void ContextMenuHandler::ReserveDynamicIds() {
   Log(L"Dynamic menu's created ... allocating all available id's");
   Log(L"Before m_lMenuCmdId=", m_state.ids.Next());
-  m_state.ids.ReserveDynamic();
+  m_state.ids.ReserveDynamic(m_globals.g_Options.m_bShellIgnoreBoundsCheck);
   Log(L"After m_lMenuCmdId=", m_state.ids.Next());
 }
 

@@ -73,10 +73,16 @@ void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
   std::int32_t submenus = m_state.m_colDynamicMenus.Count();
   for (FoundFile found; listing->Next(found);) {
     const bool isFolder = (found.attributes & FileAttribute::Directory) != 0;
-    if (isFolder && ++submenus > MaxSubmenus) continue;
     std::wstring key = LowerCase(found.name);
     if (!isFolder && !filter.Matches(key)) continue;
-    if (!m_writer.CanInsert()) return;
+    if (isFolder && ++submenus > MaxSubmenus) {
+      Log(L"No menu left for: ", path, found.name);
+      continue;
+    }
+    if (!m_writer.CanInsert()) {
+      Log(L"No identifier left for: ", path, found.name, L" and what follows it");
+      return;
+    }
 
     auto record = std::make_shared<clsOrvaneData>();
     record->m_lType = isFolder ? clsOrvaneData::TypeDynamicFolder : clsOrvaneData::TypeFile;

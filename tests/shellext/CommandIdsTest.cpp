@@ -12,7 +12,7 @@ TEST(CommandIds, HandsOutTheRangeAndStopsAtItsEnd) {
     EXPECT_EQ(ids.Take(), first);
     EXPECT_TRUE(ids.CanTake());
     EXPECT_EQ(ids.Take(), first + 1);
-    ids.ReserveDynamic();
+    ids.ReserveDynamic(false);
     EXPECT_FALSE(ids.CanTake());
     EXPECT_EQ(ids.Count(), 3);
   }
@@ -24,8 +24,11 @@ TEST(CommandIds, ReservesForDynamicFoldersByWhatIsLeft) {
   for (const auto& [left, reserved] : rows) {
     CommandIds ids(1, 51 + left);
     for (int i = 0; i < 50; ++i) ids.Take();
-    ids.ReserveDynamic();
+    ids.ReserveDynamic(false);
     EXPECT_EQ(ids.Next(), 51 + reserved) << left;
+    ids.ResumeDynamic();
+    for (int i = 0; i < reserved; ++i) ids.Take();
+    EXPECT_FALSE(ids.CanTake()) << left;
   }
 }
 

@@ -105,22 +105,49 @@ TEST(DynamicFolders, ShowNamesAsTheyAre) {
   }
 }
 
-TEST(DynamicFolders, StopWhereTheIdentifiersEnd) {
-  Folder click;
-  for (int i = 0; i < 1001; ++i) click.AddFiles({std::to_wstring(i) + L".txt"});
-  click.idLast = 500;
-  click.ClickAndOpen();
-  EXPECT_GT(click.Entries(L"Work").size(), 480u);
-  EXPECT_LT(click.Entries(L"Work").size(), 500u);
+TEST(DynamicFolders, TakeNoIdentifierPastTheCountAndLogWhatDidNotFit) {
+  const struct {
+    std::int32_t idLast;
+    bool ignoreBounds;
+    std::size_t entries;
+  } rows[] = {{14, false, 0},  // nothing is reserved: only the placeholder stays
+              {15, false, 1},  // all but ten
+              {500, false, 486},
+              {1200, false, 1000},
+              {1200, true, 1300}};
+  for (const auto& [idLast, ignoreBounds, entries] : rows) {
+    Folder click;
+    click.Set(L"DebugEnable", 1);
+    click.Set(L"DebugFlags", 0);
+    click.Set(L"ShellIgnoreBoundsCheck", ignoreBounds);
+    for (int i = 0; i < 1300; ++i) click.AddFiles({std::to_wstring(i) + L".txt"});
+    click.idLast = idLast;
+    const auto count = static_cast<std::uint32_t>(click.Click());
+    const std::wstring shown = click.Open(L"Work");
+    const std::vector<MenuEntry>& menu = click.Entries(L"Work");
+    EXPECT_EQ(shown == Empty ? 0u : menu.size(), entries) << idLast;
+    for (const MenuEntry& entry : menu)
+      EXPECT_LT(entry.id - 1, ignoreBounds ? 7000 : count) << idLast;
+    click.End();
+    const std::string log = click.desktop.files.Content(LogFile).value_or("");
+    const bool cut = log.find("No identifier left for: C:\\Work\\") != std::string::npos;
+    EXPECT_EQ(cut, entries < 1300) << idLast;
+  }
 }
 
-TEST(DynamicFolders, HoldTwentyThousandFilesAndAsManyFoldersAsTheDesktopBears) {
+TEST(DynamicFolders, ShowAsManyFoldersAsTheDesktopBearsAndLogTheOthers) {
   Folder click;
-  for (int i = 0; i < 20000; ++i) click.AddFiles({std::to_wstring(i) + L".txt"});
+  click.Set(L"ShellIgnoreBoundsCheck", 1);
+  click.Set(L"DebugEnable", 1);
+  click.Set(L"DebugFlags", 0);
+  click.AddFiles({L"a.txt"});
   for (int i = 0; i < 5000; ++i) click.desktop.files.AddFolder(L"C:\\Work\\" + std::to_wstring(i));
   click.ClickAndOpen();
-  EXPECT_EQ(click.Entries(L"Work").size(), 20000u + 3999);
+  EXPECT_EQ(click.Entries(L"Work").size(), 1u + 3999);
   EXPECT_LE(click.desktop.menus.LiveCount(), 4010u);
+  click.End();
+  const std::string log = click.desktop.files.Content(LogFile).value_or("");
+  EXPECT_NE(log.find("No menu left for: C:\\Work\\"), std::string::npos);
 }
 
 }  // namespace
