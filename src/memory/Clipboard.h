@@ -22,7 +22,7 @@ class Clipboard : public orvane::Clipboard {
   bool SetText(const std::wstring& newText) override {
     if (heldOpen || m_faults.Hit()) return false;
     text = newText.substr(0, newText.find(L'\0'));
-    m_effects.Add({"SetClipboard", {{"text", *text}}});
+    m_effects.Add(Effect("SetClipboard").With("text", *text));
     return true;
   }
 

@@ -20,7 +20,7 @@ LocalTime Clock::Now() {
 }
 
 void Clock::Pause(std::uint32_t milliseconds) {
-  m_effects.Add({"Sleep", {{"ms", std::int64_t{milliseconds}}}});
+  m_effects.Add(Effect("Sleep").With("ms", std::int64_t{milliseconds}));
   Advance(milliseconds);
 }
 

@@ -13,6 +13,17 @@ namespace orvane::memory {
 struct Effect {
   using Value = std::variant<std::wstring, std::int64_t, bool, std::vector<std::wstring>>;
 
+  explicit Effect(std::string name) : call(std::move(name)) {}
+
+  /// One field at a time, moved into its place: g++ 12 destroys variants that it did not build when
+  /// memory runs out in the middle of making one, which a test lets happen.
+  template <class Content>
+  Effect&& With(const char* name, Content content) && {
+    fields.emplace_back().first = name;
+    fields.back().second = std::move(content);
+    return std::move(*this);
+  }
+
   std::string call;  // the platform operation's name, such as "MessageBox"
   std::vector<std::pair<std::string, Value>> fields;
 };

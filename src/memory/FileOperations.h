@@ -21,11 +21,11 @@ class FileOperations : public orvane::FileOperations {
     std::vector<std::wstring> names;
     names.reserve(from.Count());
     for (auto rest = from.All(); !rest.empty();) names.emplace_back(FileNames::Take(rest));
-    m_effects.Add({"SHFileOperation",
-                   {{"func", std::wstring(function == Function::Copy ? L"copy" : L"move")},
-                    {"from", std::move(names)},
-                    {"to", to.substr(0, to.find(L'\0'))},
-                    {"flags", std::int64_t{flags}}}});
+    m_effects.Add(Effect("SHFileOperation")
+                      .With("func", std::wstring(function == Function::Copy ? L"copy" : L"move"))
+                      .With("from", std::move(names))
+                      .With("to", to.substr(0, to.find(L'\0')))
+                      .With("flags", std::int64_t{flags}));
     return 0;
   }
 

@@ -1,6 +1,7 @@
 #include "memory/FileSystem.h"
 
 #include <algorithm>
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -69,7 +70,11 @@ class FileSystem::Output : public OutputFile {
 
   ~Output() override {
     m_node.openForWriting = false;
-    if (m_record) m_files.Written(Joined(m_names), std::move(m_text));
+    try {
+      if (m_record) m_files.Written(Joined(m_names), std::move(m_text));
+    } catch (const std::bad_alloc&) {
+      // The file is as it is; only the record of it found no room.
+    }
   }
 
   bool Write(std::span<const std::byte> bytes) override {
@@ -166,7 +171,7 @@ bool FileSystem::Remove(const std::wstring& path) {
   FileNode* node = FindToChange(names);
   if (!node) return false;
   FindParent(names)->Take(*node);
-  m_effects.Add({"DeleteFile", {{"path", Joined(names)}}});
+  m_effects.Add(Effect("DeleteFile").With("path", Joined(names)));
   return true;
 }
 
@@ -349,14 +354,14 @@ bool FileSystem::Enter(const Names& names, const Patience& patience) {
 }
 
 void FileSystem::Written(const std::wstring& path, std::wstring text) {
-  m_effects.Add({"WriteFile", {{"path", path}, {"text", std::move(text)}}});
+  m_effects.Add(Effect("WriteFile").With("path", path).With("text", std::move(text)));
 }
 
 void FileSystem::Moved(const std::wstring& from, const std::wstring& to) {
   if (Effect* written = m_effects.FindLast("WriteFile", from)) {
     written->fields.front().second = to;
   } else {
-    m_effects.Add({"MoveFile", {{"from", from}, {"to", to}}});
+    m_effects.Add(Effect("MoveFile").With("from", from).With("to", to));
   }
 }
 

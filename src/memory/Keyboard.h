@@ -17,12 +17,12 @@ class Keyboard : public orvane::Keyboard {
   bool IsDown(std::uint16_t virtualKey) override { return down.contains(virtualKey); }
 
   void Press(std::uint16_t virtualKey, bool up) override {
-    m_effects.Add({"keybd_event", {{"key", std::int64_t{virtualKey}}, {"up", up}}});
+    m_effects.Add(Effect("keybd_event").With("key", std::int64_t{virtualKey}).With("up", up));
   }
 
   bool Type(const std::wstring& text, const std::vector<KeyEvent>& events) override {
     if (m_faults.Hit()) return false;
-    m_effects.Add({"SendKeys", {{"text", text}}});
+    m_effects.Add(Effect("SendKeys").With("text", text));
     typed.insert(typed.end(), events.begin(), events.end());
     return true;
   }

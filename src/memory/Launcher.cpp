@@ -14,33 +14,33 @@ constexpr std::uint32_t Patience = 1000;                             // millisec
 
 std::int32_t Launcher::Open(const Execution& execution) {
   if (m_faults.Hit()) return OutOfMemory;
-  m_effects.Add({"ShellExecute",
-                 {{"verb", execution.verb},
-                  {"file", execution.file},
-                  {"parameters", execution.parameters},
-                  {"directory", execution.directory},
-                  {"show", std::int64_t{execution.show}}}});
+  m_effects.Add(Effect("ShellExecute")
+                    .With("verb", execution.verb)
+                    .With("file", execution.file)
+                    .With("parameters", execution.parameters)
+                    .With("directory", execution.directory)
+                    .With("show", std::int64_t{execution.show}));
   const auto failure = failures.find(execution.file);
   return failure == failures.end() ? Started : failure->second;
 }
 
 bool Launcher::OpenEx(const Execution& execution) {
   if (m_faults.Hit()) return false;
-  m_effects.Add({"ShellExecuteEx",
-                 {{"verb", execution.verb},
-                  {"file", execution.file},
-                  {"parameters", execution.parameters},
-                  {"directory", execution.directory},
-                  {"show", std::int64_t{execution.show}},
-                  {"class", execution.className},
-                  {"item", m_shell.Text(execution.item)}}});
+  m_effects.Add(Effect("ShellExecuteEx")
+                    .With("verb", execution.verb)
+                    .With("file", execution.file)
+                    .With("parameters", execution.parameters)
+                    .With("directory", execution.directory)
+                    .With("show", std::int64_t{execution.show})
+                    .With("class", execution.className)
+                    .With("item", m_shell.Text(execution.item)));
   return !failures.contains(execution.file);
 }
 
 bool Launcher::Start(const std::wstring& program, const std::wstring& commandLine,
                      const std::wstring& directory) {
   if (m_faults.Hit() || !IsFullPath(program) || failures.contains(program)) return false;
-  m_effects.Add({"CreateProcess", {{"command", commandLine}, {"directory", directory}}});
+  m_effects.Add(Effect("CreateProcess").With("command", commandLine).With("directory", directory));
   return true;
 }
 
@@ -52,7 +52,7 @@ std::int32_t Launcher::BrowseObject(std::intptr_t shellBrowser, const ItemIdList
   if (m_faults.Hit() || shellBrowser == 0 || !item) return NullPointer;
   const auto failure = browserFailures.find(shellBrowser);
   if (failure != browserFailures.end()) return failure->second;
-  m_effects.Add({"BrowseObject", {{"item", m_shell.Text(item)}}});
+  m_effects.Add(Effect("BrowseObject").With("item", m_shell.Text(item)));
   return 0;
 }
 

@@ -37,11 +37,11 @@ Boxes::Answer MessageBoxes::Show(const std::wstring& text, const std::wstring& t
                                  Buttons buttons) {
   const ButtonRow& row = Rows[static_cast<std::size_t>(buttons)];
   if (m_faults.Hit()) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-  m_effects.Add({"MessageBox",
-                 {{"title", title},
-                  {"text", text},
-                  {"icon", std::wstring(Icons[static_cast<std::size_t>(icon)])},
-                  {"buttons", std::wstring(row.name)}}});
+  m_effects.Add(Effect("MessageBox")
+                    .With("title", title)
+                    .With("text", text)
+                    .With("icon", std::wstring(Icons[static_cast<std::size_t>(icon)]))
+                    .With("buttons", std::wstring(row.name)));
   if (const std::wstring* next = m_answers.Peek()) {
     const auto pressed = std::ranges::find(row.buttons, *next, &Button::name);
     if (pressed != row.buttons.end()) {

@@ -55,8 +55,9 @@ bool Processes::PostQuit(std::uint32_t thread) {
     return std::ranges::find(process.threads, thread) != process.threads.end();
   });
   if (m_faults.Hit() || !exists) return false;
-  m_effects.Add(
-      {"PostThreadMessage", {{"thread", std::int64_t{thread}}, {"message", std::int64_t{Quit}}}});
+  m_effects.Add(Effect("PostThreadMessage")
+                    .With("thread", std::int64_t{thread})
+                    .With("message", std::int64_t{Quit}));
   return true;
 }
 

@@ -65,7 +65,11 @@ Effect SetEffect(const std::wstring& key, const std::wstring& name, const Regist
       shown = HexDigits(value.data);
     }
   }
-  return {"RegSet", {{"key", key}, {"name", name}, {"kind", kind}, {"value", shown}}};
+  return Effect("RegSet")
+      .With("key", key)
+      .With("name", name)
+      .With("kind", kind)
+      .With("value", std::move(shown));
 }
 
 }  // namespace

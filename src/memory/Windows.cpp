@@ -67,11 +67,11 @@ WindowHandle Windows::TopWindowOf(std::uint32_t process) const {
 
 void Windows::Record(const char* call, WindowHandle window, std::uint32_t message,
                      std::intptr_t wParam, std::intptr_t lParam) {
-  m_effects.Add({call,
-                 {{"window", std::int64_t{ToNumber(window)}},
-                  {"message", std::int64_t{message}},
-                  {"wParam", std::int64_t{wParam}},
-                  {"lParam", std::int64_t{lParam}}}});
+  m_effects.Add(Effect(call)
+                    .With("window", std::int64_t{ToNumber(window)})
+                    .With("message", std::int64_t{message})
+                    .With("wParam", std::int64_t{wParam})
+                    .With("lParam", std::int64_t{lParam}));
 }
 
 bool Windows::Post(WindowHandle window, std::uint32_t message, std::intptr_t wParam,

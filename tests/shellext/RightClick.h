@@ -79,6 +79,12 @@ class RightClick {
   /// The whole right-click; the answer of QueryContextMenu.
   std::int32_t Click(const std::wstring& folder = {},
                      std::initializer_list<std::wstring_view> selection = {}) {
+    Begin(folder, selection);
+    return Query();
+  }
+
+  /// The right-click up to the handler with its selection.
+  void Begin(const std::wstring& folder, std::initializer_list<std::wstring_view> selection) {
     if (definition.items.size() > 1) WriteDefinitionFile();
     if (!globals) globals.emplace(desktop.Bundle());
     handler = std::make_unique<ContextMenuHandler>(*globals);
@@ -86,7 +92,6 @@ class RightClick {
     if (selection.size() > 0) data = std::make_shared<memory::DataObject>(selection);
     const ItemIdList pidl = folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder);
     EXPECT_EQ(handler->IShellExtInit_Initialize(pidl, data, 0), 0);
-    return Query();
   }
 
   std::int32_t Query() {
