@@ -51,6 +51,20 @@ function(orvane_precompiled name)
 endfunction()
 orvane_precompiled(orvane_precompiled_core HEADERS ${orvane_common_headers})
 
+# Header-only libraries of the machine that builds, also for Windows programs; a view of their own keeps
+# the machine's other headers out.
+function(orvane_headers name folder)
+  if(NOT EXISTS /usr/include/${folder})
+    message(FATAL_ERROR "/usr/include/${folder} is missing: tools/common.sh names the package")
+  endif()
+  set(view ${CMAKE_SOURCE_DIR}/build/include/${name})
+  file(MAKE_DIRECTORY ${view})
+  file(CREATE_LINK /usr/include/${folder} ${view}/${folder} SYMBOLIC)
+  add_library(orvane_${name} INTERFACE)
+  target_include_directories(orvane_${name} SYSTEM INTERFACE ${view})
+endfunction()
+orvane_headers(json nlohmann)
+
 # orvane_folder(NAME FOLDER [LINKS target...])
 # One static library for the sources directly in src/FOLDER. Its headers are seen as "FOLDER/x.h",
 # and only by the targets that link it: an include against the arrows does not build.

@@ -7,9 +7,9 @@
 #include <span>
 
 #include "HostFile.h"
-#include "MenuDocument.h"
 #include "memory/Desktop.h"
 #include "menudata/Definition.h"
+#include "menudoc/MenuDocument.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {

@@ -4,9 +4,9 @@
 #include <utility>
 #include <variant>
 
-#include "MenuDocument.h"
-#include "MenuNames.h"
 #include "menudata/DataValues.h"
+#include "menudoc/ItemKinds.h"
+#include "menudoc/MenuDocument.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {

@@ -1,9 +1,9 @@
 #include <nlohmann/json.hpp>
 #include <variant>
 
-#include "MenuDocument.h"
-#include "MenuNames.h"
 #include "menudata/DataValues.h"
+#include "menudoc/ItemKinds.h"
+#include "menudoc/MenuDocument.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {

@@ -1,4 +1,4 @@
-#include "MenuDocument.h"
+#include "menudoc/MenuDocument.h"
 
 #include <gtest/gtest.h>
 
