@@ -5,43 +5,33 @@ namespace {
 
 using Data = clsOrvaneData;
 
-constexpr DataValue Root[] = {{"caption", &Data::m_szRoot_Caption}};
+constexpr DataField Root[] = {&Data::m_szRoot_Caption};
 
-constexpr DataValue Folder[] = {{"location", &Data::m_szFolder_Location},
-                                {"caption", &Data::m_szFolder_Caption}};
+constexpr DataField Folder[] = {&Data::m_szFolder_Location, &Data::m_szFolder_Caption};
 
-constexpr DataValue PopupMenu[] = {{"caption", &Data::m_szPopupMenu_caption}};
+constexpr DataField PopupMenu[] = {&Data::m_szPopupMenu_caption};
 
-constexpr DataValue File[] = {{"location", &Data::m_szFile_Location},
-                              {"caption", &Data::m_szFile_Caption}};
+constexpr DataField File[] = {&Data::m_szFile_Location, &Data::m_szFile_Caption};
 
-constexpr DataValue CustomAction[] = {{"actions", &Data::m_szAction_Actions},
-                                      {"caption", &Data::m_szAction_Caption}};
+constexpr DataField CustomAction[] = {&Data::m_szAction_Actions, &Data::m_szAction_Caption};
 
-constexpr DataValue SelectionTask[] = {{"workingDir", &Data::m_szSelection_WorkingDir},
-                                       {"caption", &Data::m_szSelection_Caption},
-                                       {"command", &Data::m_szSelection_Command},
-                                       {"parameters", &Data::m_szSelection_Parms},
-                                       {"commandPrefix", &Data::m_szSelection_CmdPrefix},
-                                       {"commandSuffix", &Data::m_szSelection_CmdSuffix},
-                                       {"file", &Data::m_szSelection_File},
-                                       {"filePrefix", &Data::m_szSelection_FilePrefix},
-                                       {"fileSuffix", &Data::m_szSelection_FileSuffix},
-                                       {"filter", &Data::m_szSelection_Filter},
-                                       {"selectionOptions", &Data::m_lSelection_Options}};
+constexpr DataField SelectionTask[] = {
+    &Data::m_szSelection_WorkingDir, &Data::m_szSelection_Caption,
+    &Data::m_szSelection_Command,    &Data::m_szSelection_Parms,
+    &Data::m_szSelection_CmdPrefix,  &Data::m_szSelection_CmdSuffix,
+    &Data::m_szSelection_File,       &Data::m_szSelection_FilePrefix,
+    &Data::m_szSelection_FileSuffix, &Data::m_szSelection_Filter,
+    &Data::m_lSelection_Options};
 
-constexpr DataValue DynamicFolder[] = {{"location", &Data::m_szDFolder_Location},
-                                       {"caption", &Data::m_szDFolder_Caption},
-                                       {"filter", &Data::m_szDFolder_Filter},
-                                       {"folderOptions", &Data::m_lDFolder_Options}};
+constexpr DataField DynamicFolder[] = {&Data::m_szDFolder_Location, &Data::m_szDFolder_Caption,
+                                       &Data::m_szDFolder_Filter, &Data::m_lDFolder_Options};
 
-constexpr DataValue CopyToX[] = {{"location", &Data::m_szCopyToX_Location},
-                                 {"caption", &Data::m_szCopyToX_Caption},
-                                 {"copyOptions", &Data::m_lCopyToX_Options}};
+constexpr DataField CopyToX[] = {&Data::m_szCopyToX_Location, &Data::m_szCopyToX_Caption,
+                                 &Data::m_lCopyToX_Options};
 
 struct Type {
   std::int32_t type;
-  std::span<const DataValue> values;
+  std::span<const DataField> values;
 };
 
 constexpr Type Types[] = {
@@ -57,7 +47,7 @@ constexpr Type Types[] = {
 
 }  // namespace
 
-std::span<const DataValue> DataValuesOf(std::int32_t type) {
+std::span<const DataField> DataValuesOf(std::int32_t type) {
   for (const Type& candidate : Types) {
     if (candidate.type == type) return candidate.values;
   }

@@ -44,15 +44,14 @@ std::wstring Commas(std::int32_t first, std::int32_t second, std::int32_t third)
 }
 
 void WriteValue(ValueWriter& writer, const Definition& definition, std::size_t item,
-                const DataValue& value) {
+                const DataField& field) {
   const clsOrvaneData& data = definition.items[item].data;
-  if (const auto* number = std::get_if<std::int32_t clsOrvaneData::*>(&value.field)) {
+  if (const auto* number = std::get_if<std::int32_t clsOrvaneData::*>(&field)) {
     writer.Text(std::to_wstring(data.**number));
     return;
   }
-  const auto text = std::get<FieldText clsOrvaneData::*>(value.field);
-  if (const wchar_t* reason = writer.Text(data.*text))
-    throw UnwritableText(item, value.name, reason);
+  const auto text = std::get<FieldText clsOrvaneData::*>(field);
+  if (const wchar_t* reason = writer.Text(data.*text)) throw UnwritableText(item, text, reason);
 }
 
 /// Reads one piece of a file; what is wrong with it is said with its place.
@@ -102,8 +101,8 @@ std::vector<std::byte> WriteDefinition(const Definition& definition, const CodeP
   for (std::size_t i = 0; i < definition.items.size(); ++i) {
     const auto& [parent, data] = definition.items[i];
     writer.Text(Commas(parent, data.m_lType, data.m_lOptions));
-    for (const DataValue& value : DataValuesOf(data.m_lType))
-      WriteValue(writer, definition, i, value);
+    for (const DataField& field : DataValuesOf(data.m_lType))
+      WriteValue(writer, definition, i, field);
   }
   return writer.Take();
 }

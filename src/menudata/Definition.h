@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "menudata/clsFileHeader.h"
@@ -29,15 +28,15 @@ struct Definition {
 /// A text of a definition that the file cannot hold.
 class UnwritableText : public Error {
  public:
-  UnwritableText(std::size_t item, std::string_view value, std::wstring reason)
-      : Error(InvalidArgument, std::move(reason)), m_item(item), m_value(value) {}
+  UnwritableText(std::size_t item, FieldText clsOrvaneData::*field, std::wstring reason)
+      : Error(InvalidArgument, std::move(reason)), m_item(item), m_field(field) {}
 
   std::size_t Item() const { return m_item; }  // 0-based
-  std::string_view Value() const { return m_value; }
+  FieldText clsOrvaneData::*Field() const { return m_field; }
 
  private:
   std::size_t m_item;
-  std::string_view m_value;
+  FieldText clsOrvaneData::*m_field;
 };
 
 /// Reads a whole file. Error, with the place in its description, for what is none

@@ -105,7 +105,7 @@ void clsOrvaneDataTools::ReadData(DefinitionFile& file, clsOrvaneData& item) con
     else
       item.*member = ReadField(file);
   };
-  for (const DataValue& value : DataValuesOf(item.m_lType)) std::visit(read, value.field);
+  for (const DataField& field : DataValuesOf(item.m_lType)) std::visit(read, field);
 }
 
 std::wstring clsOrvaneDataTools::CreateHistoryMRU(const clsOrvaneData& item) const {

@@ -4,56 +4,58 @@
 #include <span>
 #include <string_view>
 
-#include "menudata/clsOrvaneData.h"
+#include "menudata/DataValues.h"
 
-namespace orvane::tool {
+namespace orvane {
 
-/// A number of the menu definition file and its name in the readable document.
-struct NamedNumber {
+/// The kinds of items that a menu document holds, and their fields: the one table that parser,
+/// formatter, checks, schema and designer share. Its texts are UTF-8.
+
+/// A bit of a number and its name in a document.
+struct NamedBit {
   std::string_view name;
-  std::int32_t number;
+  std::int32_t bit;
+  std::string_view meaning;  // one sentence
 };
 
-inline constexpr NamedNumber TypeNames[] = {
-    {"root", clsOrvaneData::TypeRoot},
-    {"folder", clsOrvaneData::TypeFolder},
-    {"popup", clsOrvaneData::TypePopupMenu},
-    {"separator", clsOrvaneData::TypeSeparator},
-    {"file", clsOrvaneData::TypeFile},
-    {"customAction", clsOrvaneData::TypeCustomAction},
-    {"selectionTask", clsOrvaneData::TypeSelectionTask},
-    {"dynamicFolder", clsOrvaneData::TypeDynamicFolder},
-    {"copyTo", clsOrvaneData::TypeCopyToX},
+/// What a field holds, and so how it is edited and checked.
+enum class FieldUse {
+  Caption,
+  Folder,    // path of a folder, or a special folder's number
+  File,      // path of a file
+  Program,   // path or name of a program or document
+  Template,  // parameters with tokens for the selection
+  Affix,     // text around each name, with backslash escapes
+  Filter,    // patterns with commas between them
+  Script,    // keystrokes
+  Bits
 };
 
-inline constexpr NamedNumber OptionNames[] = {
-    {"leaf", clsOrvaneData::OptionsLeaf},
-    {"exploreInNewWindow", clsOrvaneData::OptionsExploreInNewWindow},
-    {"csidl", clsOrvaneData::OptionsCSIDL},
-    {"browseAndOpen", clsOrvaneData::OptionsBrowseAndOpen},
+struct ItemField {
+  std::string_view name;
+  DataField value;
+  FieldUse use;
+  std::string_view meaning;          // one sentence
+  std::span<const NamedBit> bits{};  // of FieldUse::Bits; a number's other bits have no names
 };
 
-inline constexpr NamedNumber SelectionOptionNames[] = {
-    {"showAlways", clsOrvaneData::SelectionOptions_ShowAlways},
-    {"showSingle", clsOrvaneData::SelectionOptions_ShowSingle},
-    {"showMultiple", clsOrvaneData::SelectionOptions_ShowMultiple},
-    {"recurse", clsOrvaneData::SelectionOptions_Recurse},
-    {"clipboard", clsOrvaneData::SelectionOptions_Clipboard},
-    {"fullPaths", clsOrvaneData::SelectionOptions_FQP},
-    {"quoteIfBlank", clsOrvaneData::SelectionOptions_QIS},
-    {"shortNames", clsOrvaneData::SelectionOptions_ShortNames},
+struct ItemKind {
+  std::string_view name;
+  std::int32_t type;  // m_lType
+  std::string_view meaning;
+  bool holdsItems;
+  std::span<const ItemField> fields;  // in a document's order; the options are not among them
 };
 
-inline constexpr NamedNumber CopyOptionNames[] = {
-    {"move", clsOrvaneData::CopyToXOptions_Move},
-};
+std::span<const ItemKind> ItemKinds();
+/// The option bits, which every kind has.
+const ItemField& OptionsField();
 
-/// The names of the bits of a number value; none for a value whose bits have no names.
-inline std::span<const NamedNumber> BitNamesOf(std::string_view value) {
-  if (value == "options") return OptionNames;
-  if (value == "selectionOptions") return SelectionOptionNames;
-  if (value == "copyOptions") return CopyOptionNames;
-  return {};
-}
+/// None when there is no such kind.
+const ItemKind* FindKind(std::int32_t type);
+const ItemKind* FindKind(std::string_view name);
+/// The field of that name, the options included; none when the type has no such field.
+const ItemField* FindField(std::int32_t type, std::string_view name);
+const ItemField* FindField(std::int32_t type, const DataField& value);
 
-}  // namespace orvane::tool
+}  // namespace orvane

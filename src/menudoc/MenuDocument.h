@@ -6,12 +6,16 @@
 #include <vector>
 
 #include "menudata/Definition.h"
+#include "menudoc/Finding.h"
 
-namespace orvane::tool {
+namespace orvane {
 
-/// A menu definition as a readable JSON document (docs/menu-definition.md), and back.
+/// A menu as the readable document and the designer have it: a definition whose items stand in tree
+/// order, so that all that lies below an item follows it at once. Every item's parent (1-based, 0
+/// for none) stands before it. MenuTree.h has the edits that keep it so.
+using MenuDocument = Definition;
 
-/// What is wrong with a document or a definition, and where.
+/// What makes a text no document, or a definition no tree. UTF-8.
 class DocumentError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -20,16 +24,23 @@ class DocumentError : public std::runtime_error {
 /// Popups within popups, so that neither form can exhaust the stack.
 inline constexpr int MaxDepth = 1000;
 
+/// What a text says, as far as it can be understood, and all that is wrong with it: with errors
+/// among the findings the menu is not what the text's author meant.
 struct ParsedMenu {
-  Definition definition;
-  std::vector<std::string> places;  // of the items in the document, as JSON pointers
+  MenuDocument menu;
+  std::vector<std::string> places;  // of the items in the text, as JSON pointers
+  std::vector<Finding> findings;
 };
 
-/// Parents stand before their children and siblings in their order. DocumentError for what is no
-/// menu.
-ParsedMenu ParseMenu(std::string_view json);
+/// Reads a document: JSON with comments, UTF-8 (docs/menu-definition.md). Never throws for what is
+/// in the text.
+ParsedMenu ParseMenu(std::string_view text);
+/// Reads a list of items, or a single one, as FormatItems writes them.
+ParsedMenu ParseItems(std::string_view text);
 
-/// DocumentError for a definition whose items are not a tree of popups.
-std::string FormatMenu(const Definition& definition);
+/// The document of a menu; ParseMenu gives the same menu.
+std::string FormatMenu(const MenuDocument& menu);
+/// A list of items without a document around them, for the clipboard.
+std::string FormatItems(const MenuDocument& menu);
 
-}  // namespace orvane::tool
+}  // namespace orvane

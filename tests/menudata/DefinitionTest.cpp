@@ -111,7 +111,7 @@ TEST(Definition, TextsThatTheFileCannotHold) {
       ADD_FAILURE() << caption.size();
     } catch (const UnwritableText& error) {
       EXPECT_EQ(error.Item(), 1u);
-      EXPECT_EQ(error.Value(), "caption");
+      EXPECT_EQ(error.Field(), &clsOrvaneData::m_szFile_Caption);
     }
   }
 }

@@ -5,22 +5,22 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
+#include "menudata/DataValues.h"
 #include "menudata/World.h"
+#include "menudoc/MenuTree.h"
 #include "support/Utf8.h"
 
-namespace orvane::tool {
+namespace orvane {
 namespace {
 
 using Data = clsOrvaneData;
 using Json = nlohmann::json;
 using test::World;
 
-using Field = std::variant<FieldText Data::*, std::int32_t Data::*>;
-
 #define FIELD(name) \
   { #name, &Data::name }
 
-const std::map<std::string, Field> Fields = {
+const std::map<std::string, DataField> Fields = {
     {"type", &Data::m_lType},        {"options", &Data::m_lOptions},
     FIELD(m_szRoot_Caption),         FIELD(m_szFolder_Location),
     FIELD(m_szFolder_Caption),       FIELD(m_szPopupMenu_caption),
@@ -81,16 +81,16 @@ TEST(MenuDocument, ReadingThenWritingGivesTheSameBytes) {
   for (const std::string& document : documents) {
     World world;
     const auto write = [&](const std::string& json) {
-      return WriteDefinition(ParseMenu(json).definition, world.codePage, world.debug);
+      return WriteDefinition(ParseMenu(json).menu, world.codePage, world.debug);
     };
     const auto bytes = write(document);
-    const std::string readable = FormatMenu(world.Read(bytes));
+    const std::string readable = FormatMenu(InTreeOrder(world.Read(bytes)));
     EXPECT_EQ(write(readable), bytes) << readable;
   }
 }
 
 TEST(MenuDocument, ItemsKnowTheirParentsAndTheirPlaces) {
-  const auto [definition, places] = ParseMenu(R"({"caption": "r", "items": [
+  const auto [definition, places, findings] = ParseMenu(R"({"caption": "r", "items": [
       {"type": "popup", "items": [{"type": "file"}]}, {"type": "separator"}]})");
   ASSERT_EQ(definition.items.size(), 4u);
   EXPECT_EQ(definition.items[2].parent, 2);
@@ -108,36 +108,96 @@ std::string Nested(int popups) {
   return document;
 }
 
-TEST(MenuDocument, RefusesWhatIsNoMenuAndSaysWhere) {
-  const std::pair<std::string, const char*> cases[] = {
-      {R"({"items": [{"type": "fil"}]})", "/items/0/type: \"fil\" is none of root, folder,"},
-      {R"({"items": [{"caption": "x"}]})", "/items/0: has no type"},
-      {R"({"items": [{"type": "file", "a/b\n": "x"}]})", "/items/0/a~1b\\n: is not known"},
-      {R"({"items": [{"type": "file", "caption": 5}]})", "/items/0/caption: must be a text"},
-      {R"({"items": [{"type": "file", "items": []}]})", "/items/0/items: is not known"},
-      {R"({"items": [{"type": "folder", "options": ["leaf", "x"]}]})", "/items/0/options/1: \"x\""},
-      {R"({"items": [{"type": 1.5}]})", "/items/0/type: must be a"},
-      {R"({"items": {}})", "/items: must be a list"},
-      {R"({"items": [1]})", "/items/0: must be an object"},
-      {R"({"caption": "x", "type": "file"})", "/type: is not known"},
-      {R"({"header": [1]})", "/header: must be a list"},
+std::string Listed(const std::vector<Finding>& findings) {
+  std::string text;
+  for (const Finding& finding : findings) {
+    EXPECT_NE(finding.remedy, "") << finding.text;
+    text += finding.place + ": " + finding.text + "\n";
+  }
+  return text;
+}
+
+TEST(MenuDocument, SaysAllThatIsWrongAndWhere) {
+  const std::pair<std::string, std::string> cases[] = {
+      {R"({"items": [{"type": "fil", "x": 1}, {"caption": "x"}, 1, {"type": 1.5}]})",
+       "/items/0/type: \"fil\" is no type\n/items/1: has no type\n/items/2: is no object\n"
+       "/items/3/type: 1.5 is no type\n"},
+      {R"({"items": [{"type": "file", "a/b\n": "x", "caption": 5},
+                     {"type": "folder", "options": ["leaf", "x"], "csidl": 5}]})",
+       "/items/0/a~1b\\n: is not known for this type of item\n/items/0/caption: is no text\n"
+       "/items/1/csidl: is not known for this type of item\n"
+       "/items/1/options/1: is neither a name nor a number\n"},
+      {R"({"items": {}, "x": 1})",
+       "/items: is no list\n/x: is not known in a document without a caption\n"},
+      {R"({"caption": "x", "type": "file"})", "/type: is not known for this type of item\n"},
+      {R"({"header": [1]})", "/header: is no list of two numbers\n"},
       {R"({"items": [{"type": "file"}, {"type": "file", "type": "root"}]})",
-       "/items/1/type: stands there twice"},
-      {R"({"options": 1e999})", "number overflow"},
-      {"[]", "the document: must be an object"},
+       "/items/1/type: stands there twice\n"},
+      {R"({"caption": "x", "options": 4294967296})", "/options: is neither a name nor a number\n"},
+      {"[]", ": is no object\n"},
+  };
+  for (const auto& [document, expected] : cases)
+    EXPECT_EQ(Listed(ParseMenu(document).findings), expected) << document;
+}
+
+TEST(MenuDocument, SaysWhereATextStopsBeingADocument) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "parse error at line 1, column 1"},
       {"{\n  \"items\": [}", "parse error at line 2, column 13"},
-      {Nested(MaxDepth + 1), "/items/0/items/0/items/0"},
-      {std::string(100000, '['), "parse error"},
+      {"{\"caption\": \"caf\xe9\"}",
+       "line 1, column 18: syntax error while parsing value - invalid string: ill-formed UTF-8 "
+       "byte"},
+      {std::string("{\"caption\": \"a\0\"}", 17), "parse error at line 1, column 15"},
+      {R"({"caption": "\ud800"})", "parse error"},
+      {R"({"options": 1e999})", "number overflow"},
+      {std::string(100'000, '['), "lists and objects are nested deeper than"},
   };
   for (const auto& [document, message] : cases) {
-    try {
-      ParseMenu(document);
-      ADD_FAILURE() << document.substr(0, 100);
-    } catch (const DocumentError& error) {
-      EXPECT_EQ(std::string(error.what()).find(message), 0u) << error.what();
-    }
+    const auto findings = ParseMenu(document).findings;
+    ASSERT_EQ(findings.size(), 1u) << document.substr(0, 100);
+    EXPECT_EQ(findings[0].place, "");
+    EXPECT_NE(findings[0].text.find(message), std::string::npos) << findings[0].text;
+    EXPECT_TRUE(FromUtf8(findings[0].text)) << findings[0].text;
   }
-  EXPECT_NO_THROW(FormatMenu(ParseMenu(Nested(MaxDepth)).definition));
+}
+
+TEST(MenuDocument, PopupsNestToALimit) {
+  const ParsedMenu deepest = ParseMenu(Nested(MaxDepth));
+  EXPECT_EQ(Listed(deepest.findings), "");
+  EXPECT_EQ(Listed(ParseMenu(FormatMenu(deepest.menu)).findings), "");
+  const auto findings = ParseMenu(Nested(MaxDepth + 1)).findings;
+  ASSERT_EQ(findings.size(), 1u);
+  EXPECT_EQ(findings[0].text, "lies in more than 1000 popups");
+}
+
+/// The items one below the other: each with its caption, one blank deeper than its parent.
+std::string Outline(const MenuDocument& menu) {
+  const std::vector<int> depths = DepthsOf(menu);
+  std::string text;
+  for (std::size_t i = 0; i < menu.items.size(); ++i)
+    text += std::string(static_cast<std::size_t>(depths[i]), ' ') +
+            ToUtf8(menu.items[i].data.Caption()) + "\n";
+  return text;
+}
+
+TEST(MenuTree, ItemsAreTakenOutPutInAndCarriedAsText) {
+  MenuDocument menu = ParseMenu(R"({"caption": "r", "items": [
+      {"type": "popup", "caption": "a", "items": [
+        {"type": "popup", "caption": "b", "items": [{"type": "file", "caption": "c"}]},
+        {"type": "file", "caption": "d"}]},
+      {"type": "popup", "caption": "e", "items": [{"type": "file", "caption": "f"}]}]})")
+                          .menu;
+  EXPECT_EQ(EndOfItem(menu, 1), 5u);
+  EXPECT_EQ(PlacesOf(menu)[6], "/items/1/items/0");
+  const MenuDocument b = ParseItems(FormatItems(CopyItems(menu, 2, 4))).menu;
+  EXPECT_EQ(Outline(b), "b\n c\n");
+  RemoveItem(menu, 2);
+  EXPECT_EQ(Outline(menu), "r\na\n d\ne\n f\n");
+  InsertItems(menu, 5, 4, b);  // at the end of e
+  EXPECT_EQ(Outline(menu), "r\na\n d\ne\n f\n b\n  c\n");
+  InsertItems(menu, 1, 1, b);
+  EXPECT_EQ(Outline(menu), "r\nb\n c\na\n d\ne\n f\n b\n  c\n");
+  EXPECT_EQ(FormatMenu(InTreeOrder(menu)), FormatMenu(menu));
 }
 
 TEST(MenuDocument, RefusesDefinitionsThatAreNoTree) {
@@ -146,7 +206,7 @@ TEST(MenuDocument, RefusesDefinitionsThatAreNoTree) {
     for (const auto& [parent, type] : items)
       definition.items.emplace_back(parent).data.m_lType = type;
     try {
-      FormatMenu(definition);
+      InTreeOrder(definition);
     } catch (const DocumentError& error) {
       return std::string(error.what());
     }
@@ -154,13 +214,13 @@ TEST(MenuDocument, RefusesDefinitionsThatAreNoTree) {
   };
   EXPECT_EQ(messageFor({{0, 0}, {1, 6}}), "");
   EXPECT_NE(messageFor({{0, 0}, {2, 2}}), "") << "itself";
-  EXPECT_NE(messageFor({{0, 0}, {3, 6}, {1, 2}}), "") << "later";
+  EXPECT_EQ(messageFor({{0, 0}, {3, 6}, {1, 2}}),
+            "item 2: its parent, item 3, does not stand before it");
   EXPECT_NE(messageFor({{0, 0}, {-1, 6}}), "") << "negative";
-  EXPECT_EQ(messageFor({{0, 0}, {1, 6}, {2, 6}}), "item 3: its parent, item 2, is no popup");
   std::vector<std::pair<std::int32_t, std::int32_t>> deep;
   for (std::int32_t i = 0; i < 100'000; ++i) deep.emplace_back(i, 2);
-  EXPECT_EQ(messageFor(deep), "item 1002: is nested deeper than 1000 popups");
+  EXPECT_EQ(messageFor(deep), "popups lie in more than 1000 popups");
 }
 
 }  // namespace
-}  // namespace orvane::tool
+}  // namespace orvane

@@ -8,8 +8,9 @@
 
 #include "HostFile.h"
 #include "memory/Desktop.h"
-#include "menudata/Definition.h"
-#include "menudoc/MenuDocument.h"
+#include "menudoc/CheckMenu.h"
+#include "menudoc/ItemKinds.h"
+#include "menudoc/MenuTree.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {
@@ -62,18 +63,27 @@ struct Tools {
   clsOrvaneDataTools data{options, debug, desktop.shell};
 };
 
+void RefuseErrors(const std::vector<Finding>& findings, const std::string& json) {
+  for (const Finding& finding : findings) {
+    if (finding.severity == Finding::Severity::Error)
+      throw std::runtime_error(json + ": " +
+                               (finding.place.empty() ? "the document" : finding.place) + ": " +
+                               finding.text);
+  }
+}
+
 void WriteMenu(const std::string& json, const std::string& cfg) {
   Tools tools;
+  const ParsedMenu parsed = ParseMenu(ReadHostFile(json));
+  RefuseErrors(parsed.findings, json);
+  RefuseErrors(CheckMenu(parsed.menu, {tools.codePage}), json);
   try {
-    const ParsedMenu menu = ParseMenu(ReadHostFile(json));
-    try {
-      ReplaceFile(cfg, WriteDefinition(menu.definition, tools.codePage, tools.debug));
-    } catch (const UnwritableText& error) {
-      throw DocumentError(menu.places[error.Item()] + "/" + std::string(error.Value()) + ": " +
-                          ToUtf8(error.Description()));
-    }
-  } catch (const DocumentError& error) {
-    throw std::runtime_error(json + ": " + error.what());
+    ReplaceFile(cfg, WriteDefinition(parsed.menu, tools.codePage, tools.debug));
+  } catch (const UnwritableText& error) {
+    const std::int32_t type = parsed.menu.items[error.Item()].data.m_lType;
+    throw std::runtime_error(json + ": " + parsed.places[error.Item()] + "/" +
+                             std::string(FindField(type, error.Field())->name) + ": " +
+                             ToUtf8(error.Description()));
   }
 }
 
@@ -83,7 +93,7 @@ void ReadMenu(const std::string& cfg) {
   const auto bytes = std::as_bytes(std::span(content));
   DefinitionFile file({bytes.begin(), bytes.end()}, tools.codePage);
   try {
-    std::cout << FormatMenu(ReadDefinition(file, tools.data)) << std::flush;
+    std::cout << FormatMenu(InTreeOrder(ReadDefinition(file, tools.data))) << std::flush;
   } catch (const Error& error) {
     throw std::runtime_error(cfg + ": " + ToUtf8(error.Description()));
   } catch (const DocumentError& error) {
