@@ -1,48 +1,92 @@
 #include "menudoc/CheckMenu.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
+#include "menudoc/CheckItem.h"
 #include "menudoc/ItemKinds.h"
 #include "menudoc/MenuTree.h"
+#include "support/Text.h"
+#include "support/Utf8.h"
 
 namespace orvane {
 namespace {
 
-class Checker {
+using Severity = Finding::Severity;
+
+/// The letter that chooses an entry; 0 for none.
+wchar_t MnemonicOf(std::wstring_view caption) {
+  for (std::size_t i = caption.find(L'&'); i + 1 < caption.size(); i = caption.find(L'&', i + 2)) {
+    if (caption[i + 1] != L'&') return LowerCase(caption[i + 1]);
+  }
+  return 0;
+}
+
+/// What is wrong with the tree, item by item; CheckItem looks into each.
+class TreeCheck {
  public:
-  explicit Checker(const MenuDocument& menu) : m_menu(menu) {}
+  TreeCheck(const MenuDocument& menu, const MenuSurroundings& surroundings)
+      : m_menu(menu), m_itemCheck(surroundings), m_depths(DepthsOf(menu)) {}
 
   std::vector<Finding> Run() {
-    for (m_item = 0; m_item < m_menu.items.size(); ++m_item) CheckParent();
+    for (m_item = 0; m_item < m_menu.items.size(); ++m_item) {
+      CheckPlace();
+      if (!Item().IsTypeRoot()) CheckMnemonic();
+      for (Finding& finding : m_itemCheck.Check(Item())) Report(std::move(finding));
+    }
     return std::move(m_findings);
   }
 
  private:
   const clsOrvaneData& Item() const { return m_menu.items[m_item].data; }
 
-  void Report(Finding::Severity severity, std::string_view field, std::string text,
-              std::string remedy) {
-    m_findings.push_back(
-        {severity, m_item, std::string(field), {}, std::move(text), std::move(remedy)});
+  void Report(Finding finding) {
+    finding.item = m_item;
+    m_findings.push_back(std::move(finding));
   }
 
-  void CheckParent() {
+  void CheckPlace() {
     const ItemKind* kind = FindKind(Item().m_lType);
-    const bool hasItems = EndOfItem(m_menu, m_item) > m_item + 1;
+    const std::size_t end = m_item + 1;
+    const bool hasItems =
+        end < m_menu.items.size() && m_menu.items[end].parent == static_cast<std::int32_t>(end);
     if (hasItems && !(kind && kind->holdsItems))
-      Report(Finding::Severity::Error, "items", "is no popup and cannot hold items",
-             "Move the items out, or make it a popup.");
+      Report({.field = "items",
+              .text = "is no popup and cannot hold items",
+              .remedy = "Move the items out, or make it a popup."});
+    if (!hasItems && Item().IsTypePopupMenu())
+      Report({.severity = Severity::Warning,
+              .text = "is a popup with nothing in it",
+              .remedy = "Put items into it, or take it out."});
+    if (m_depths[m_item] > MaxDepth)
+      Report({.text = "lies in more than " + std::to_string(MaxDepth) + " popups",
+              .remedy = "Move it further up."});
+  }
+
+  void CheckMnemonic() {
+    const wchar_t letter = MnemonicOf(Item().Caption());
+    if (letter == 0) return;
+    const auto [first, isNew] =
+        m_letters.try_emplace({m_menu.items[m_item].parent, letter}, m_item);
+    if (isNew) return;
+    const clsOrvaneData& other = m_menu.items[first->second].data;
+    Report({.severity = Severity::Warning,
+            .field = "caption",
+            .text = "has the letter " + ToUtf8({&letter, 1}) + " of \"" + ToUtf8(other.Caption()) +
+                    "\" beside it",
+            .remedy = "Put the & before another letter of one of the two."});
   }
 
   const MenuDocument& m_menu;
+  CheckItem m_itemCheck;
+  std::vector<int> m_depths;
+  std::map<std::pair<std::int32_t, wchar_t>, std::size_t> m_letters;  // by parent and letter
   std::size_t m_item = 0;
   std::vector<Finding> m_findings;
 };
 
-void AddPlaces(const MenuDocument& menu, std::vector<Finding>& findings) {
-  if (findings.empty()) return;
-  const std::vector<std::string> places = PlacesOf(menu);
+void AddPlaces(const std::vector<std::string>& places, std::vector<Finding>& findings) {
   for (Finding& finding : findings) {
     if (finding.item != Finding::NoItem) finding.place = places[finding.item];
     if (!finding.field.empty()) finding.place += "/" + finding.field;
@@ -51,15 +95,25 @@ void AddPlaces(const MenuDocument& menu, std::vector<Finding>& findings) {
 
 }  // namespace
 
-std::vector<Finding> CheckMenu(const MenuDocument& menu, const MenuSurroundings&) {
-  std::vector<Finding> findings = Checker(menu).Run();
-  AddPlaces(menu, findings);
+std::vector<Finding> CheckMenu(const MenuDocument& menu, const MenuSurroundings& surroundings) {
+  std::vector<Finding> findings = TreeCheck(menu, surroundings).Run();
+  if (!findings.empty()) AddPlaces(PlacesOf(menu), findings);
   return findings;
 }
 
+void CheckParsed(ParsedMenu& parsed, const MenuSurroundings& surroundings) {
+  std::vector<Finding> findings = TreeCheck(parsed.menu, surroundings).Run();
+  AddPlaces(parsed.places, findings);
+  const std::vector<Finding> before = parsed.findings;
+  for (Finding& finding : findings) {
+    // What stands there could not be read; what was taken for it needs no words.
+    const bool isKnown = std::ranges::find(before, finding.place, &Finding::place) != before.end();
+    if (!isKnown) parsed.findings.push_back(std::move(finding));
+  }
+}
+
 bool HasErrors(const std::vector<Finding>& findings) {
-  return std::ranges::any_of(
-      findings, [](const Finding& f) { return f.severity == Finding::Severity::Error; });
+  return std::ranges::find(findings, Severity::Error, &Finding::severity) != findings.end();
 }
 
 }  // namespace orvane
