@@ -10,7 +10,10 @@ if(WIN32)
                          -Wno-restrict)
   # What nothing reaches does not come along.
   target_compile_options(orvane_flags INTERFACE -ffunction-sections -fdata-sections)
-  target_link_options(orvane_flags INTERFACE -static -Wl,--gc-sections $<$<CONFIG:Release>:-s>)
+  target_link_options(orvane_flags INTERFACE -static -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  # Symbols for a file beside what is delivered; the same bytes wherever it is built.
+  target_compile_options(orvane_flags INTERFACE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-g1
+                         -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
 endif()
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 # What only tests are made of: undefined behaviour is looked for in the product, and checking it in
@@ -21,6 +24,7 @@ if(ORVANE_SANITIZE)
   target_compile_options(orvane_test_flags INTERFACE -fno-sanitize=undefined)
 elseif(WIN32)
   target_compile_options(orvane_test_flags INTERFACE -O1)
+  target_link_options(orvane_test_flags INTERFACE -s)
 endif()
 if(ORVANE_SANITIZE)
   add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined
@@ -65,6 +69,20 @@ function(orvane_headers name folder)
 endfunction()
 orvane_headers(json nlohmann)
 
+# orvane_small(TARGET): in a Windows program this one is built for size rather than speed, since it runs
+# when an entry was chosen and not while a menu waits to appear.
+if(WIN32)
+  add_library(orvane_size INTERFACE)
+  target_compile_options(orvane_size INTERFACE -Os)
+  orvane_precompiled(orvane_precompiled_small LINKS orvane_size HEADERS ${orvane_common_headers})
+endif()
+function(orvane_small target)
+  if(WIN32)
+    target_link_libraries(${target} PRIVATE orvane_size)
+    set_target_properties(${target} PROPERTIES PRECOMPILE_HEADERS_REUSE_FROM orvane_precompiled_small)
+  endif()
+endfunction()
+
 # orvane_folder(NAME FOLDER [LINKS target...])
 # One static library for the sources directly in src/FOLDER. Its headers are seen as "FOLDER/x.h",
 # and only by the targets that link it: an include against the arrows does not build.
@@ -83,5 +101,26 @@ function(orvane_folder name folder)
     add_library(orvane_${name} INTERFACE)
     target_include_directories(orvane_${name} INTERFACE ${view})
     target_link_libraries(orvane_${name} INTERFACE ${arg_LINKS})
+  endif()
+endfunction()
+
+# What is delivered: a Windows program or DLL keeps its debug symbols in a file beside it, and is signed
+# when there is a certificate (tools/sign says more).
+set(ORVANE_CERTIFICATE "" CACHE FILEPATH "PKCS#12 file to sign programs with; empty: they are not signed")
+if(ORVANE_CERTIFICATE)
+  set(orvane_sign COMMAND ${CMAKE_SOURCE_DIR}/tools/sign ${ORVANE_CERTIFICATE})
+endif()
+function(orvane_delivered target)
+  if(WIN32)
+    set(file $<TARGET_FILE:${target}>)
+    set(sign ${orvane_sign})
+    if(sign)
+      list(APPEND sign ${file})
+    endif()
+    add_custom_command(TARGET ${target} POST_BUILD
+                       COMMAND ${CMAKE_OBJCOPY} --only-keep-debug ${file} ${file}.debug
+                       COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0
+                               ${CMAKE_OBJCOPY} --strip-all --add-gnu-debuglink=${file}.debug ${file}
+                       ${sign})
   endif()
 endfunction()

@@ -6,7 +6,8 @@ jobs=$(nproc)
 native_packages=(g++ cmake ninja-build googletest libbenchmark-dev nlohmann-json3-dev libcli11-dev)
 fuzz_packages=(clang libclang-rt-dev)
 check_packages=(clang-format clang-tidy)
-wine_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 wine xvfb xauth xdotool imagemagick)
+wine_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 wine xvfb xauth xdotool imagemagick
+               nsis osslsigncode)
 
 say() { printf '== %s\n' "$*"; }
 complain() { printf '%s\n' "$*" >&2; }
@@ -57,15 +58,16 @@ build() {
   fi
 }
 
-# A throw-away Wine prefix of our own, with a home of its own since its desktop shows the home.
+# A throw-away Wine prefix of our own (build/wine, or what ORVANE_PREFIX names there), with a home of
+# its own since its desktop shows the home.
 wine_environment() {
-  export WINEPREFIX=$root/build/wine
+  export WINEPREFIX=$root/build/${ORVANE_PREFIX:-wine}
   export HOME=$root/build/wine-home
   export WINEDEBUG=${WINEDEBUG:--all}
   export WINEDLLOVERRIDES="winedbg.exe=;mscoree=;mshtml="  # a crash ends at once; no add-on downloads
   mkdir -p "$HOME"
   if [ ! -e "$WINEPREFIX/system.reg" ]; then
-    say "making the Wine prefix build/wine"
+    say "making the Wine prefix ${WINEPREFIX#"$root/"}"
     timeout 300 wineboot -i >"$root/build/wineboot.log" 2>&1
     timeout 60 wineserver -w
   fi

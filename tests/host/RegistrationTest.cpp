@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <functional>
 #include <iterator>
 
@@ -102,37 +100,6 @@ TEST(Registration, WritesAndRemovesExactlyItsOwnKeys) {
   ExpectExactly(HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE,
                 [&](bool install) { return installFor(install, install ? L"user" : L"USER"); });
   EXPECT_EQ(installFor(true, L"everybody"), E_INVALIDARG);
-}
-
-/// One of the scripts beside this program, run by the command interpreter.
-int Run(const wchar_t* script, const std::wstring& argument) {
-  const std::filesystem::path path = std::filesystem::path(HostPath()).replace_filename(script);
-  return _wsystem((L"\"\"" + path.wstring() + L"\" " + argument + L" >nul\"").c_str());
-}
-
-void ExpectInstalled(bool installed, HKEY hive, const std::filesystem::path& library) {
-  for (const wchar_t* menuOf : {L"*", L"Directory", L"Directory\\Background", L"Drive"}) {
-    EXPECT_EQ(ValueOf(hive, menuOf + std::wstring(L"\\shellex\\ContextMenuHandlers\\Orvane")),
-              installed ? ClassId : L"");
-  }
-  EXPECT_EQ(ValueOf(hive, L"CLSID\\" + std::wstring(ClassId) + L"\\InprocServer32"),
-            installed ? library.wstring() : L"");
-  EXPECT_EQ(std::filesystem::exists(library), installed);
-  EXPECT_EQ(std::filesystem::exists(library.parent_path()), installed);
-}
-
-void InstallAndUninstall(HKEY hive, const std::wstring& argument, const wchar_t* home) {
-  const auto library = std::filesystem::path(_wgetenv(home)) / L"Orvane" / L"orvane.dll";
-  EXPECT_EQ(Run(L"install.cmd", argument), 0);
-  ExpectInstalled(true, hive, library);
-  EXPECT_EQ(Run(L"uninstall.cmd", argument), 0);
-  ExpectInstalled(false, hive, library);
-}
-
-TEST(Installer, InstallsForOneUserOrForAllAndTakesItBack) {
-  InstallAndUninstall(HKEY_CURRENT_USER, L"user", L"LocalAppData");
-  InstallAndUninstall(HKEY_LOCAL_MACHINE, L"", L"ProgramFiles");
-  EXPECT_EQ(Library().Call("DllRegisterServer"), S_OK);  // for the other tests
 }
 
 }  // namespace
