@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "menudoc/CheckItem.h"
@@ -86,29 +87,30 @@ class TreeCheck {
   std::vector<Finding> m_findings;
 };
 
-void AddPlaces(const std::vector<std::string>& places, std::vector<Finding>& findings) {
-  for (Finding& finding : findings) {
-    if (finding.item != Finding::NoItem) finding.place = places[finding.item];
-    if (!finding.field.empty()) finding.place += "/" + finding.field;
-  }
-}
-
 }  // namespace
 
 std::vector<Finding> CheckMenu(const MenuDocument& menu, const MenuSurroundings& surroundings) {
   std::vector<Finding> findings = TreeCheck(menu, surroundings).Run();
-  if (!findings.empty()) AddPlaces(PlacesOf(menu), findings);
+  if (findings.empty()) return findings;
+  const std::vector<std::string> places = PlacesOf(menu);
+  for (Finding& finding : findings) {
+    finding.place = places[finding.item];
+    if (!finding.field.empty()) finding.place += "/" + finding.field;
+  }
   return findings;
 }
 
 void CheckParsed(ParsedMenu& parsed, const MenuSurroundings& surroundings) {
   std::vector<Finding> findings = TreeCheck(parsed.menu, surroundings).Run();
-  AddPlaces(parsed.places, findings);
-  const std::vector<Finding> before = parsed.findings;
+  std::set<std::string> unread;
+  for (const Finding& finding : parsed.findings) unread.insert(finding.place);
   for (Finding& finding : findings) {
-    // What stands there could not be read; what was taken for it needs no words.
-    const bool isKnown = std::ranges::find(before, finding.place, &Finding::place) != before.end();
-    if (!isKnown) parsed.findings.push_back(std::move(finding));
+    PlaceInText(finding, parsed);
+    // What was taken for something that could not be read needs no words. An include's place is
+    // that of all its items.
+    const bool isIncluded = finding.place.ends_with("/include");
+    if (isIncluded || !unread.contains(finding.place))
+      parsed.findings.push_back(std::move(finding));
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "menudoc/ItemKinds.h"
 #include "menudoc/MenuTree.h"
+#include "menudoc/NamesInText.h"
 #include "support/Utf8.h"
 
 namespace orvane {
@@ -35,7 +36,9 @@ void AddField(Json& json, const ItemField& field, const clsOrvaneData& data) {
     return;
   }
   const FieldText& text = data.*std::get<FieldText clsOrvaneData::*>(field.value);
-  if (!text.empty()) json[std::string(field.name)] = ToUtf8(text);
+  if (text.empty()) return;
+  json[std::string(field.name)] =
+      ToUtf8(IsPath(field.use) ? EscapeNames(text) : std::wstring(text));
 }
 
 void AddFields(Json& json, const clsOrvaneData& data) {

@@ -31,6 +31,11 @@ enum class FieldUse {
   Bits
 };
 
+/// Whether names between percent signs are replaced in it.
+constexpr bool IsPath(FieldUse use) {
+  return use == FieldUse::Folder || use == FieldUse::File || use == FieldUse::Program;
+}
+
 struct ItemField {
   std::string_view name;
   DataField value;

@@ -1,12 +1,11 @@
 #include <algorithm>
-#include <limits>
+#include <memory>
 #include <utility>
-#include <variant>
 
+#include "menudoc/FieldReader.h"
 #include "menudoc/ItemKinds.h"
 #include "menudoc/JsonText.h"
 #include "menudoc/MenuDocument.h"
-#include "support/Utf8.h"
 
 namespace orvane {
 namespace {
@@ -15,51 +14,87 @@ using Json = nlohmann::json;
 
 constexpr std::int32_t UnknownType = -1;
 
-template <class Rows>
-std::string Names(const Rows& rows) {
-  std::string names;
-  for (const auto& row : rows) names.append(names.empty() ? "" : ", ").append(row.name);
-  return names;
+// Documents that include others twice, which include others twice, grow without bound.
+constexpr std::size_t MaxItems = 1'000'000;
+constexpr std::size_t MaxIncludes = 10'000;
+
+bool IsDocumentKey(std::string_view key) {
+  return key == "$schema" || key == "header";
 }
 
-bool IsNumber(const Json& value) {
-  using Limits = std::numeric_limits<std::int32_t>;
-  return value.is_number_unsigned()
-             ? value.get<std::uint64_t>() <= std::uint64_t{Limits::max()}
-             : value.is_number_integer() && value.get<std::int64_t>() >= Limits::min();
+std::string KnownFields(std::int32_t type) {
+  const ItemKind* kind = FindKind(type);
+  if (!kind || kind->fields.empty()) return "Such an item has options only.";
+  return "Such an item has " + Names(kind->fields) + ", options" +
+         (kind->holdsItems ? ", items." : ".");
 }
 
 class Parser {
  public:
+  explicit Parser(const DocumentSources& sources)
+      : m_sources(sources), m_fields(sources, [this](auto place, auto text, auto remedy) {
+          Report(std::move(place), std::move(text), std::move(remedy));
+        }) {}
+  Parser(const Parser&) = delete;
+  Parser& operator=(const Parser&) = delete;
+
   ParsedMenu Document(std::string_view text) {
-    const Json document = Read(text);
-    if (!m_failed) AddDocument(document);
+    const auto document = Read(text);
+    if (document) AddDocument(*document);
+    ReadLists();
     return std::move(m_result);
   }
 
   ParsedMenu Items(std::string_view text) {
-    const Json items = Read(text);
-    if (m_failed) return std::move(m_result);
-    if (items.is_object())
-      AddItem(items, 0, "", 0);
-    else
-      AddItems(items, 0, "", 0);
+    const auto read = Read(text);
+    const Json items = read && read->is_object() ? Json::array({*read}) : read.value_or(Json());
+    if (read) AddItems(items, 0, "", 0);
+    ReadLists();
     return std::move(m_result);
   }
 
  private:
-  Json Read(std::string_view text) {
+  /// A list of items that is being read. Kept on a stack of its own: the program's may be too small
+  /// for the deepest menu.
+  struct List {
+    const Json* items;
+    std::int32_t parent;
+    std::string place;
+    int depth;
+    std::size_t next = 0;
+    std::unique_ptr<Json> document{};  // of an include, which ends with its list
+    std::size_t firstItem = 0;         // of the include
+  };
+
+  void ReadLists() {
+    while (!m_lists.empty()) {
+      List& list = m_lists.back();
+      if (list.next == list.items->size() || m_isFull) {
+        if (list.document) EndInclude(list.firstItem);
+        m_lists.pop_back();
+        continue;
+      }
+      const std::size_t i = list.next++;
+      AddItem((*list.items)[i], list.parent, ElementPlace(list.place, i), list.depth);
+    }
+  }
+
+  /// None when the text is no JSON.
+  std::optional<Json> Read(std::string_view text) {
     JsonText json = ReadJson(text);
-    m_failed = !json.error.empty();
-    if (m_failed) Report("", json.error, "A document is JSON in UTF-8; comments are allowed.");
     for (const std::string& place : json.twice)
       Report(place, "stands there twice", "Keep one of the two.");
-    return std::move(json.value);
+    if (json.error.empty()) return std::move(json.value);
+    Report("", json.error, "A document is JSON in UTF-8; comments are allowed.");
+    return std::nullopt;
   }
 
   void Report(std::string place, std::string text, std::string remedy) {
-    m_result.findings.push_back(
-        {.place = std::move(place), .text = std::move(text), .remedy = std::move(remedy)});
+    Finding& finding = m_result.findings.emplace_back();
+    finding.place = std::move(place);
+    finding.text = std::move(text);
+    finding.remedy = std::move(remedy);
+    if (!m_including.empty()) PlaceInInclude(finding, m_including.back(), m_includePlace);
   }
 
   void AddDocument(const Json& document) {
@@ -68,34 +103,31 @@ class Parser {
     if (document.contains("caption"))
       AddItemOfType(document, clsOrvaneData::TypeRoot, 0, "", 0);
     else
-      AddRootless(document);
+      AddRootless(document, 0, 0);
   }
 
-  void AddRootless(const Json& document) {
+  void AddRootless(const Json& document, std::int32_t parent, int depth) {
     for (const auto& [key, value] : document.items()) {
       if (key == "items")
-        AddItems(value, 0, "/items", 0);
+        AddItems(value, parent, "/items", depth);
       else if (!IsDocumentKey(key))
         Report(MemberPlace("", key), "is not known in a document without a caption",
                "Use items and header only, or give the document a caption.");
     }
   }
 
-  static bool IsDocumentKey(std::string_view key) { return key == "$schema" || key == "header"; }
-
   void ReadHeader(const Json& value) {
     if (!value.is_array() || value.size() != 2)
       return Report("/header", "is no list of two numbers",
                     "Give the first and the third number of the file's header, or leave it out.");
     clsFileHeader& header = m_result.menu.header;
-    header.HeaderValue1 = NumberOf(value[0], {}, "/header/0");
-    header.HeaderValue3 = NumberOf(value[1], {}, "/header/1");
+    header.HeaderValue1 = m_fields.NumberOf(value[0], {}, "/header/0");
+    header.HeaderValue3 = m_fields.NumberOf(value[1], {}, "/header/1");
   }
 
   void AddItems(const Json& items, std::int32_t parent, const std::string& place, int depth) {
     if (!items.is_array()) return Report(place, "is no list", "Put the items in [ and ].");
-    for (std::size_t i = 0; i < items.size(); ++i)
-      AddItem(items[i], parent, ElementPlace(place, i), depth);
+    m_lists.push_back({&items, parent, place, depth});
   }
 
   void AddItem(const Json& item, std::int32_t parent, const std::string& place, int depth) {
@@ -103,7 +135,10 @@ class Parser {
     if (depth > MaxDepth)
       return Report(place, "lies in more than " + std::to_string(MaxDepth) + " popups",
                     "Move it further up.");
-    AddItemOfType(item, TypeOf(item, place), parent, place, depth);
+    if (item.contains("include"))
+      AddInclude(item, parent, place, depth);
+    else
+      AddItemOfType(item, TypeOf(item, place), parent, place, depth);
   }
 
   std::int32_t TypeOf(const Json& item, const std::string& place) {
@@ -124,83 +159,120 @@ class Parser {
 
   void AddItemOfType(const Json& json, std::int32_t type, std::int32_t parent,
                      const std::string& place, int depth) {
-    const auto children = json.find("items");
     auto& items = m_result.menu.items;
+    if (items.size() == MaxItems) return ReportTooMany(place, "item", MaxItems);
     items.emplace_back().parent = parent;
     m_result.places.push_back(place);
     ReadFields(json, type, items.back().data, place);
     const auto self = static_cast<std::int32_t>(items.size());
-    if (children != json.end())
+    if (const auto children = json.find("items"); children != json.end())
       AddItems(*children, self, place + "/items", place.empty() ? 0 : depth + 1);
+  }
+
+  void ReportTooMany(const std::string& place, const std::string& what, std::size_t limit) {
+    m_isFull = true;
+    Report(place, "is one " + what + " more than " + std::to_string(limit),
+           "Use fewer " + what + "s.");
   }
 
   void ReadFields(const Json& json, std::int32_t type, clsOrvaneData& data,
                   const std::string& place) {
     data.m_lType = type;
     for (const auto& [key, value] : json.items()) {
-      if (key == "items" || (place.empty() && IsDocumentKey(key)) ||
-          (!place.empty() && key == "type"))
-        continue;
+      if (key == "items" || (place.empty() ? IsDocumentKey(key) : key == "type")) continue;
       if (const ItemField* field = FindField(type, std::string_view(key)))
-        ReadField(value, *field, data, place + "/" + key);
+        m_fields.Read(value, *field, data, place + "/" + key);
       else if (type != UnknownType)
         Report(MemberPlace(place, key), "is not known for this type of item", KnownFields(type));
     }
+    m_fields.ResolveFolders(data, place);
   }
 
-  static std::string KnownFields(std::int32_t type) {
-    const ItemKind* kind = FindKind(type);
-    if (!kind || kind->fields.empty()) return "Such an item has options only.";
-    return "Such an item has " + Names(kind->fields) + ", options" +
-           (kind->holdsItems ? ", items." : ".");
+  void AddInclude(const Json& item, std::int32_t parent, const std::string& place, int depth) {
+    for (const auto& [key, value] : item.items()) {
+      if (key != "include")
+        Report(MemberPlace(place, key), "is not known beside an include",
+               "Leave it out: the items of the other document stand here as they are.");
+    }
+    const Json& name = item["include"];
+    if (!name.is_string())
+      return Report(place + "/include", "is no text", "Put the document's name in double quotes.");
+    const std::string from = m_including.empty() ? "" : m_including.back();
+    const auto document = m_sources.document
+                              ? m_sources.document(name.get_ref<const std::string&>(), from)
+                              : std::nullopt;
+    if (!document)
+      return Report(place + "/include", name.dump() + " cannot be read", "Correct the name.");
+    if (std::ranges::find(m_including, document->name) != m_including.end())
+      return ReportCircle(document->name, place + "/include");
+    Include(*document, parent, place + "/include", depth);
   }
 
-  void ReadField(const Json& json, const ItemField& field, clsOrvaneData& data,
-                 const std::string& place) {
-    if (const auto* number = std::get_if<std::int32_t clsOrvaneData::*>(&field.value))
-      data.** number = BitsOf(json, field.bits, place);
-    else if (json.is_string())
-      data.*std::get<FieldText clsOrvaneData::*>(field.value) =
-          FromUtf8(json.get_ref<const std::string&>()).value();  // the reader has checked it
-    else
-      Report(place, "is no text", "Put it in double quotes.");
+  void ReportCircle(const std::string& name, const std::string& place) {
+    std::string circle;
+    for (auto open = std::ranges::find(m_including, name); open != m_including.end(); ++open)
+      circle += *open + ", ";
+    Report(place, "documents include each other in a circle: " + circle + name,
+           "Take one of these includes out.");
   }
 
-  /// Bits are a list of names and numbers, or a single one.
-  std::int32_t BitsOf(const Json& value, std::span<const NamedBit> names,
-                      const std::string& place) {
-    if (!value.is_array()) return NumberOf(value, names, place);
-    std::int32_t bits = 0;
-    for (std::size_t i = 0; i < value.size(); ++i)
-      bits |= NumberOf(value[i], names, ElementPlace(place, i));
-    return bits;
+  /// Puts the items of another document here; its caption and options are its own affair.
+  void Include(const DocumentSources::Document& document, std::int32_t parent,
+               const std::string& place, int depth) {
+    if (m_result.includes.size() + m_including.size() == MaxIncludes)
+      return ReportTooMany(place, "include", MaxIncludes);
+    if (m_including.empty()) m_includePlace = place;
+    m_including.push_back(document.name);
+    const std::size_t before = m_lists.size();
+    const std::size_t firstItem = m_result.menu.items.size();
+    auto json = std::make_unique<Json>(Read(document.text).value_or(Json()));
+    if (json->is_object() && json->contains("items"))
+      AddItems((*json)["items"], parent, "/items", depth);
+    else if (!json->is_object() && !json->is_null())
+      Report("", "is no object", "Put it in { and }.");
+    if (m_lists.size() == before) return EndInclude(firstItem);
+    m_lists.back().document = std::move(json);
+    m_lists.back().firstItem = firstItem;
   }
 
-  std::int32_t NumberOf(const Json& value, std::span<const NamedBit> names,
-                        const std::string& place) {
-    if (IsNumber(value)) return value.get<std::int32_t>();
-    const auto bit = std::ranges::find_if(names, [&](const NamedBit& name) {
-      return value.is_string() && value.get_ref<const std::string&>() == name.name;
-    });
-    if (bit != names.end()) return bit->bit;
-    const std::string number = "a whole number of 32 bits";
-    Report(place, names.empty() ? "is no number" : "is neither a name nor a number",
-           "Use " + (names.empty() ? "" : "one of " + Names(names) + ", or ") + number + ".");
-    return 0;
+  void EndInclude(std::size_t firstItem) {
+    m_result.includes.push_back(
+        {firstItem, m_result.menu.items.size(), m_including.back(), m_includePlace});
+    m_including.pop_back();
   }
 
+  const DocumentSources& m_sources;
+  FieldReader m_fields;
   ParsedMenu m_result;
-  bool m_failed = false;
+  std::vector<List> m_lists;
+  std::vector<std::string> m_including;  // names of the documents being read, the outermost first
+  std::string m_includePlace;            // of the outermost one, in the document itself
+  bool m_isFull = false;
 };
 
 }  // namespace
 
-ParsedMenu ParseMenu(std::string_view text) {
-  return Parser().Document(text);
+ParsedMenu ParseMenu(std::string_view text, const DocumentSources& sources) {
+  return Parser(sources).Document(text);
 }
 
 ParsedMenu ParseItems(std::string_view text) {
-  return Parser().Items(text);
+  return Parser({}).Items(text);
+}
+
+void PlaceInInclude(Finding& finding, const std::string& name, const std::string& includePlace) {
+  finding.text = name + (finding.place.empty() ? "" : " " + finding.place) + ": " + finding.text;
+  finding.place = includePlace;
+}
+
+void PlaceInText(Finding& finding, const ParsedMenu& parsed) {
+  finding.place = parsed.places[finding.item];
+  if (!finding.field.empty()) finding.place += "/" + finding.field;
+  // An inner include ends before the one around it and stands before it in the list.
+  const auto include = std::ranges::find_if(parsed.includes, [&](const ParsedMenu::Include& range) {
+    return finding.item >= range.first && finding.item < range.last;
+  });
+  if (include != parsed.includes.end()) PlaceInInclude(finding, include->name, include->place);
 }
 
 }  // namespace orvane

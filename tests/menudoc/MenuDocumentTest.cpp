@@ -75,7 +75,8 @@ TEST(MenuDocument, ReadingThenWritingGivesTheSameBytes) {
            {"type": 4, "options": [1, "csidl", -2147483648]},
            {"type": "root", "caption": "second", "items": [{"type": "file"}]},
            {"type": "selectionTask", "caption": "a\u0000b", "selectionOptions": 255},
-           {"type": "dynamicFolder", "folderOptions": 3},
+           {"type": "dynamicFolder", "folderOptions": 3, "location": "C:\\100%% %%x%% % %a"},
+           {"type": "customAction", "actions": "%f%n%%"},
            {"type": "copyTo", "copyOptions": ["move"]}]})",
       R"({"items": [{"type": "file", "caption": "caf\u00e9 \u20ac \u0081"}, {"type": "root"}]})"};
   for (const std::string& document : documents) {
@@ -90,13 +91,14 @@ TEST(MenuDocument, ReadingThenWritingGivesTheSameBytes) {
 }
 
 TEST(MenuDocument, ItemsKnowTheirParentsAndTheirPlaces) {
-  const auto [definition, places, findings] = ParseMenu(R"({"caption": "r", "items": [
+  const ParsedMenu parsed = ParseMenu(R"({"caption": "r", "items": [
       {"type": "popup", "items": [{"type": "file"}]}, {"type": "separator"}]})");
-  ASSERT_EQ(definition.items.size(), 4u);
-  EXPECT_EQ(definition.items[2].parent, 2);
-  EXPECT_EQ(places[2], "/items/0/items/0");
-  EXPECT_EQ(definition.items[3].parent, 1);
-  EXPECT_EQ(places[3], "/items/1");
+  const auto& items = parsed.menu.items;
+  ASSERT_EQ(items.size(), 4u);
+  EXPECT_EQ(items[2].parent, 2);
+  EXPECT_EQ(parsed.places[2], "/items/0/items/0");
+  EXPECT_EQ(items[3].parent, 1);
+  EXPECT_EQ(parsed.places, PlacesOf(parsed.menu));
 }
 
 std::string Nested(int popups) {
