@@ -1,0 +1,416 @@
+#include <commctrl.h>
+#include <shellapi.h>
+#include <windowsx.h>
+
+#include "designerapp/CommandIds.h"
+#include "designerapp/FileDialogs.h"
+#include "designerapp/FindDialog.h"
+#include "designerapp/ItemClipboard.h"
+#include "designerapp/MainWindow.h"
+#include "menudata/ShellPaths.h"
+#include "platform/Clipboard.h"
+#include "platform/SystemInfo.h"
+#include "support/Utf8.h"
+
+// What the menu bar of the main window does.
+
+namespace orvane::designerapp {
+namespace {
+
+using designer::MenuItem;
+using Data = clsOrvaneData;
+
+Data Record(std::int32_t type, const std::wstring& caption, const std::wstring& location = {}) {
+  Data data;
+  data.m_lType = type;
+  data.Location(location);
+  data.Caption(caption);
+  return data;
+}
+
+/// What a dropped or chosen thing becomes: a folder or a file, named as the shell names it.
+Data RecordOf(const std::wstring& path, const Platform& platform) {
+  const bool isFolder = IsDirectory(platform.files, path, Patience(1000));
+  std::wstring name = GetDisplayName(platform.shell, path);
+  if (name.empty()) name = path;
+  return Record(isFolder ? Data::TypeFolder : Data::TypeFile, name, path);
+}
+
+std::vector<std::wstring> PathsOf(WPARAM drop) {
+  const auto handle = reinterpret_cast<HDROP>(drop);
+  std::vector<std::wstring> paths;
+  const UINT count = DragQueryFileW(handle, 0xFFFFFFFF, nullptr, 0);
+  for (UINT i = 0; i < count; ++i) {
+    std::wstring path(DragQueryFileW(handle, i, nullptr, 0) + 1, L'\0');
+    DragQueryFileW(handle, i, path.data(), static_cast<UINT>(path.size()));
+    path.pop_back();
+    paths.push_back(std::move(path));
+  }
+  DragFinish(handle);
+  return paths;
+}
+
+void Enable(HMENU menu, UINT id, bool on) {
+  EnableMenuItem(menu, id, MF_BYCOMMAND | (on ? MF_ENABLED : MF_GRAYED));
+}
+
+}  // namespace
+
+bool MainWindow::Command(int id) {
+  return FileCommand(id) || EditCommand(id) || InsertCommand(id) || ViewCommand(id) ||
+         HelpCommand(id);
+}
+
+bool MainWindow::FileCommand(int id) {
+  bool isOther = false;
+  switch (id) {
+    case ID_FILE_NEW:
+      isOther = m_files.New();
+      break;
+    case ID_FILE_OPEN:
+      isOther = m_files.Open();
+      break;
+    case ID_FILE_IMPORT:
+      isOther = m_files.Import();
+      break;
+    case ID_FILE_SAVE:
+      if (m_files.Save()) ShowTitle();
+      return true;
+    case ID_FILE_SAVE_AS:
+      if (m_files.SaveAs()) ShowTitle();
+      return true;
+    case ID_FILE_EXPORT:
+      m_files.Export();
+      return true;
+    case ID_FILE_EXIT:
+      PostMessageW(Handle(), WM_CLOSE, 0, 0);
+      return true;
+    default:
+      return false;
+  }
+  if (isOther) ShowDocument();
+  return true;
+}
+
+bool MainWindow::EditCommand(int id) {
+  designer::Document& document = m_program.document;
+  designer::History& edits = document.Edits();
+  designer::Items after;
+  switch (id) {
+    case ID_EDIT_UNDO:
+    case ID_EDIT_REDO:
+      if (MenuItem* shown = id == ID_EDIT_UNDO ? edits.Undo() : edits.Redo()) after = {shown};
+      break;
+    case ID_EDIT_CUT:
+      Copy();
+      [[fallthrough]];
+    case ID_EDIT_DELETE:
+      after = Remove(edits, document.Top(), m_tree.Selection());
+      break;
+    case ID_EDIT_COPY:
+      Copy();
+      return true;
+    case ID_EDIT_PASTE:
+      Paste();
+      return true;
+    case ID_EDIT_DUPLICATE:
+      after = Duplicate(edits, document.Top(), m_tree.Selection());
+      break;
+    case ID_EDIT_RENAME:
+      m_tree.Rename();
+      return true;
+    case ID_EDIT_MARK:
+      m_tree.ToggleMark();
+      return true;
+    case ID_EDIT_UP:
+      Move(designer::Direction::Up);
+      return true;
+    case ID_EDIT_DOWN:
+      Move(designer::Direction::Down);
+      return true;
+    case ID_EDIT_IN:
+      Move(designer::Direction::In);
+      return true;
+    case ID_EDIT_OUT:
+      Move(designer::Direction::Out);
+      return true;
+    case ID_EDIT_FIND:
+    case ID_EDIT_FIND_NEXT:
+      Find(id == ID_EDIT_FIND_NEXT);
+      return true;
+    default:
+      return false;
+  }
+  m_tree.Select(after);
+  ShowCurrent();
+  EditsHappened();
+  return true;
+}
+
+bool MainWindow::InsertCommand(int id) {
+  switch (id) {
+    case ID_INSERT_POPUP:
+      Insert(Record(Data::TypePopupMenu, L"New popup"));
+      return true;
+    case ID_INSERT_SEPARATOR:
+      Insert(Record(Data::TypeSeparator, {}));
+      return true;
+    case ID_INSERT_FOLDER:
+      InsertFolder(Data::TypeFolder, false);
+      return true;
+    case ID_INSERT_DYNAMIC:
+      InsertFolder(Data::TypeDynamicFolder, false);
+      return true;
+    case ID_INSERT_COPY:
+    case ID_INSERT_MOVE:
+      InsertFolder(Data::TypeCopyToX, id == ID_INSERT_MOVE);
+      return true;
+    case ID_INSERT_SPECIAL: {
+      constexpr std::int32_t Documents = 5;
+      Data data = Record(Data::TypeFolder, L"Documents");
+      data.m_lOptions = Data::OptionsCSIDL;
+      data.FolderCSIDL(Documents);
+      Insert(std::move(data));
+      return true;
+    }
+    case ID_INSERT_FILE:
+    case ID_INSERT_PROGRAM: {
+      const std::wstring start = id == ID_INSERT_FILE
+                                     ? L""
+                                     : m_program.platform.system.Environment(L"ProgramData") +
+                                           L"\\Microsoft\\Windows\\Start Menu\\Programs\\";
+      const std::wstring path =
+          AskFile(Handle(), id == ID_INSERT_FILE ? Files::Any : Files::Programs, start);
+      if (!path.empty()) Insert(RecordOf(path, m_program.platform));
+      return true;
+    }
+    case ID_INSERT_TASK: {
+      Data data = Record(Data::TypeSelectionTask, L"New task");
+      data.m_lSelection_Options = Data::SelectionOptions_ShowAlways | Data::SelectionOptions_QIS;
+      data.m_szSelection_CmdSuffix = L" ";
+      data.m_szSelection_FileSuffix = L"\\n";
+      data.m_szSelection_Parms = L"[orv_selection]";
+      Insert(std::move(data));
+      return true;
+    }
+    case ID_INSERT_ACTION:
+      Insert(Record(Data::TypeCustomAction, L"New action"));
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool MainWindow::ViewCommand(int id) {
+  switch (id) {
+    case ID_VIEW_PREVIEW: {
+      RECT tree{};
+      GetWindowRect(m_tree.Handle(), &tree);
+      Preview({tree.left + 40, tree.top + 40});
+      return true;
+    }
+    case ID_VIEW_SAMPLE_NOTHING:
+      m_program.sample.names.clear();
+      break;
+    case ID_VIEW_SAMPLE_FILES: {
+      const std::vector<std::wstring> paths = AskFiles(Handle());
+      if (paths.empty()) return true;
+      m_program.sample = designer::SampleOf(paths);
+      break;
+    }
+    case ID_VIEW_SAMPLE_FOLDER: {
+      const std::wstring path = AskFolder(Handle(), m_program.sample.folder);
+      if (path.empty()) return true;
+      m_program.sample = designer::SampleOf({path});
+      break;
+    }
+    case ID_VIEW_CHECK:
+      m_findings.Check(true);
+      Status(std::to_wstring(m_findings.Count()) + L" findings");
+      return true;
+    case ID_VIEW_NEXT_PART:
+      NextPart();
+      return true;
+    default:
+      return false;
+  }
+  m_properties.ShowTask();
+  Status(L"The preview is for " + m_program.sample.Text() + L'.');
+  return true;
+}
+
+bool MainWindow::HelpCommand(int id) {
+  if (id == ID_HELP_GUIDE)
+    Guide();
+  else if (id == ID_HELP_ABOUT)
+    MessageBoxW(Handle(), L"Orvane Designer 1.0\n\nCopyright (c) Tarnwick", L"Orvane Designer",
+                MB_OK | MB_ICONINFORMATION);
+  else
+    return false;
+  return true;
+}
+
+void MainWindow::UpdateMenu(HMENU menu) {
+  designer::History& edits = m_program.document.Edits();
+  const bool selected = !m_tree.Selection().empty();
+  Enable(menu, ID_EDIT_UNDO, edits.NextUndo() != nullptr);
+  Enable(menu, ID_EDIT_REDO, edits.NextRedo() != nullptr);
+  Enable(menu, ID_EDIT_PASTE, IsClipboardFormatAvailable(CF_UNICODETEXT));
+  for (const UINT id :
+       {ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_DELETE, ID_EDIT_DUPLICATE, ID_EDIT_RENAME, ID_EDIT_MARK,
+        ID_EDIT_UP, ID_EDIT_DOWN, ID_EDIT_IN, ID_EDIT_OUT})
+    Enable(menu, id, selected);
+  Enable(menu, ID_EDIT_FIND_NEXT, !m_searched.empty());
+}
+
+void MainWindow::Copy() {
+  const designer::Items items = m_tree.Selection();
+  if (items.empty()) return;
+  const std::string text = CopyText(m_program.document.Top(), items);
+  if (!m_program.platform.clipboard.SetText(FromUtf8(text).value_or(L"")))
+    throw Error(Error::Internal, L"Another program keeps the clipboard.");
+}
+
+void MainWindow::Paste() {
+  const auto text = ClipboardText(Handle());
+  if (!text) return;
+  designer::Document& document = m_program.document;
+  const designer::Place place = PlaceFor(document.Top(), m_tree.Current());
+  m_tree.Select(designer::Paste(document.Edits(), ToUtf8(*text), place));
+  EditsHappened();
+}
+
+void MainWindow::Move(designer::Direction direction) {
+  designer::Document& document = m_program.document;
+  m_tree.Select(designer::Move(document.Edits(), document.Top(), m_tree.Selection(), direction));
+  ShowCurrent();
+  EditsHappened();
+}
+
+void MainWindow::Insert(clsOrvaneData data) {
+  designer::Document& document = m_program.document;
+  const designer::Place place = PlaceFor(document.Top(), m_tree.Current());
+  m_tree.Select(designer::Insert(document.Edits(), std::move(data), place));
+  ShowCurrent();
+  EditsHappened();
+  SetFocus(m_tree.Handle());
+}
+
+void MainWindow::InsertFolder(std::int32_t type, bool move) {
+  const std::wstring path = AskFolder(Handle(), {});
+  if (path.empty()) return;
+  std::wstring name = GetDisplayName(m_program.platform.shell, path);
+  Data data = Record(type, name.empty() ? path : name, path);
+  if (move) data.m_lCopyToX_Options = Data::CopyToXOptions_Move;
+  Insert(std::move(data));
+}
+
+void MainWindow::Find(bool again) {
+  if (!again || m_searched.empty()) {
+    const auto text = FindDialog(m_program.instance).Ask(Handle(), m_searched);
+    if (!text) return;
+    m_searched = *text;
+  }
+  MenuItem* found = FindText(m_program.document.Top(), m_searched, m_tree.Current());
+  if (!found) return Status(L"No item has the text \"" + m_searched + L"\".");
+  m_tree.ClearMarks();
+  m_tree.Select(found);
+}
+
+void MainWindow::DroppedFiles(WPARAM drop) {
+  POINT at{};
+  GetCursorPos(&at);
+  designer::Document& document = m_program.document;
+  std::vector<clsOrvaneData> records;
+  for (const std::wstring& path : PathsOf(drop))
+    records.push_back(RecordOf(path, m_program.platform));
+  const designer::Place place =
+      m_tree.DropPlace(at).value_or(PlaceFor(document.Top(), m_tree.Current()));
+  m_tree.Select(designer::Insert(document.Edits(), std::move(records), place));
+  ShowCurrent();
+  EditsHappened();
+}
+
+void MainWindow::BeginDrag(MenuItem& item) {
+  if (item.data.IsTypeRoot()) return;
+  const designer::Items selection = m_tree.Selection();
+  if (std::ranges::find(selection, &item) == selection.end()) {
+    m_tree.ClearMarks();
+    m_tree.Select(&item);
+  }
+  m_dragging = true;
+  SetCapture(Handle());
+}
+
+void MainWindow::Drag() {
+  POINT at{};
+  GetCursorPos(&at);
+  auto place = m_tree.DropPlace(at);
+  if (place && !CanMoveTo(m_program.document.Top(), m_tree.Selection(), *place)) place.reset();
+  m_tree.ShowDropPlace(place);
+  SetCursor(LoadCursorW(nullptr, place ? IDC_ARROW : IDC_NO));
+}
+
+void MainWindow::EndDrag(bool drop) {
+  if (!m_dragging) return;
+  m_dragging = false;
+  m_tree.ShowDropPlace(std::nullopt);
+  ReleaseCapture();
+  POINT at{};
+  GetCursorPos(&at);
+  const auto place = m_tree.DropPlace(at);
+  if (!drop || !place) return;
+  designer::Document& document = m_program.document;
+  m_tree.Select(MoveTo(document.Edits(), document.Top(), m_tree.Selection(), *place));
+  ShowCurrent();
+  EditsHappened();
+}
+
+/// On the background of the tree it is the preview itself.
+void MainWindow::ContextMenu(LPARAM at) {
+  POINT point{GET_X_LPARAM(at), GET_Y_LPARAM(at)};
+  const bool byKey = at == -1;
+  MenuItem* item = byKey ? m_tree.Current() : m_tree.ItemAt(point);
+  if (!item) return Preview(point);
+  if (byKey) {
+    RECT tree{};
+    GetWindowRect(m_tree.Handle(), &tree);
+    point = {tree.left + 40, tree.top + 40};
+  } else {
+    m_tree.Select(item);
+  }
+  const HMENU edit = GetSubMenu(GetMenu(Handle()), 1);
+  TrackPopupMenu(edit, TPM_RIGHTBUTTON, point.x, point.y, 0, Handle(), nullptr);
+}
+
+void MainWindow::Preview(POINT at) {
+  const std::wstring outcome = m_preview.Show(Handle(), at);
+  ShowCurrent();
+  if (!outcome.empty())
+    MessageBoxW(Handle(), outcome.c_str(), L"Choosing the entry does this",
+                MB_OK | MB_ICONINFORMATION);
+}
+
+void MainWindow::NextPart() {
+  const HWND focus = GetFocus();
+  if (focus == m_tree.Handle())
+    m_properties.FocusField({});
+  else if (IsChild(m_properties.Handle(), focus))
+    SetFocus(m_findings.Handle());
+  else
+    SetFocus(m_tree.Handle());
+}
+
+void MainWindow::Guide() {
+  const std::wstring folder = m_program.platform.system.ProgramFolder();
+  for (const wchar_t* place :
+       {L"\\docs\\designer.html", L"\\docs\\designer.md", L"\\..\\docs\\designer.md"}) {
+    const std::wstring path = folder + place;
+    if (!FileExists(m_program.platform.files, path)) continue;
+    ShellExecuteW(Handle(), L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    return;
+  }
+  throw Error(Error::InvalidArgument, L"The guide is not in " + folder + L"\\docs.");
+}
+
+}  // namespace orvane::designerapp

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "designerapp/DocumentFiles.h"
+#include "designerapp/FindingsPane.h"
+#include "designerapp/PreviewMenu.h"
+#include "designerapp/PropertyPane.h"
+#include "designerapp/TreePane.h"
+#include "designerapp/Window.h"
+
+namespace orvane::designerapp {
+
+/// The designer's window: tree, properties, findings, status bar and menu bar.
+class MainWindow : public Window, private designer::EditListener {
+ public:
+  explicit MainWindow(Program& program);
+
+  /// Shows the window and opens the file; empty: the one that the settings name.
+  void Open(const std::wstring& path, int show);
+
+  /// A message of the thread: true when it was a key of the menu bar or of going from field to
+  /// field.
+  bool Translate(MSG& message);
+
+ protected:
+  LRESULT Message(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  // What an edit shows goes to all parts of the window.
+  void Inserted(designer::MenuItem& item) override;
+  void Removing(designer::MenuItem& item) override;
+  void Changed(designer::MenuItem& item) override;
+  void Clearing() override;
+
+  void MakeParts();
+  void Resolution(UINT dpi);
+  void Arrange();
+  LRESULT Notify(NMHDR& header);
+  bool Command(int id);
+  bool FileCommand(int id);
+  bool EditCommand(int id);
+  bool InsertCommand(int id);
+  bool ViewCommand(int id);
+  bool HelpCommand(int id);
+
+  void ShowDocument();
+  void ShowCurrent();
+  void ShowTitle();
+  void Status(const std::wstring& text);
+  void EditsHappened();
+  void UpdateMenu(HMENU menu);
+  LRESULT HighlightChanged(WPARAM wParam);
+
+  void Copy();
+  void Paste();
+  void Find(bool again);
+  void Move(designer::Direction direction);
+  void Insert(clsOrvaneData data);
+  void InsertAt(std::int32_t type, const std::wstring& location);
+  void InsertFolder(std::int32_t type, bool move);
+  void DroppedFiles(WPARAM drop);
+  void BeginDrag(designer::MenuItem& item);
+  void Drag();
+  void EndDrag(bool drop);
+  void ContextMenu(LPARAM at);
+  void Preview(POINT at);
+  void NextPart();
+  void Guide();
+  void GoTo(designer::MenuItem* item, const std::string& field);
+
+  Program& m_program;
+  TreePane m_tree;
+  PropertyPane m_properties;
+  FindingsPane m_findings;
+  PreviewMenu m_preview;
+  DocumentFiles m_files;
+  HWND m_status = nullptr;
+  UniqueFont m_font;
+  HACCEL m_keys = nullptr;      // of the module, not to be destroyed
+  HACCEL m_treeKeys = nullptr;  // as above
+  std::wstring m_searched;
+  bool m_dragging = false;
+};
+
+}  // namespace orvane::designerapp

@@ -1,0 +1,394 @@
+#include "designerapp/PropertyPane.h"
+
+#include <algorithm>
+
+#include "designer/Labels.h"
+#include "designer/TaskText.h"
+#include "designerapp/FileDialogs.h"
+#include "designerapp/Scale.h"
+#include "menudata/ShellPaths.h"
+#include "support/Utf8.h"
+
+namespace orvane::designerapp {
+namespace {
+
+using designer::MenuItem;
+using Bits = std::int32_t clsOrvaneData::*;
+using Text = FieldText clsOrvaneData::*;
+
+constexpr int LastSpecialFolder = 0x3D;
+constexpr const wchar_t* KeysOfMenuBar = L"feivh";
+
+std::wstring Wide(std::string_view text) {
+  return FromUtf8(text).value_or(std::wstring());
+}
+
+bool CanBrowse(FieldUse use) {
+  return use == FieldUse::Folder || use == FieldUse::File || use == FieldUse::Program;
+}
+
+}  // namespace
+
+void PropertyPane::Create(HWND parent) {
+  Window::Create({L"OrvaneDesignerProperties", L"Properties", WS_CHILD | WS_VISIBLE | WS_VSCROLL,
+                  WS_EX_CONTROLPARENT},
+                 {}, parent, nullptr);
+  m_tips = CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
+                           0, 0, 0, Handle(), nullptr, m_program.instance, nullptr);
+  SendMessageW(m_tips, TTM_SETMAXTIPWIDTH, 0, 400);
+}
+
+void PropertyPane::Resolution(UINT dpi, HFONT font) {
+  m_dpi = dpi;
+  m_font = font;
+  for (HWND child = GetWindow(Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  Arrange();
+}
+
+void PropertyPane::Show(MenuItem* item) {
+  if (item == m_item) return;
+  m_item = item;
+  SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+  Clear();
+  if (item) MakeRows();
+  m_scrolled = 0;
+  Fill();
+  Arrange();
+  SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+  RedrawWindow(Handle(), nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+void PropertyPane::Clear() {
+  m_rows.clear();
+  m_kind = m_task = nullptr;
+  while (const HWND child = GetWindow(Handle(), GW_CHILD)) DestroyWindow(child);
+}
+
+void PropertyPane::MakeRows() {
+  const clsOrvaneData& data = m_item->data;
+  const ItemKind* kind = FindKind(data.m_lType);
+  const wchar_t* known = data.IsTypeRoot() ? L"The menu as a whole." : L"An unknown kind of item.";
+  m_kind =
+      Make(L"STATIC", kind && !data.IsTypeRoot() ? Wide(kind->meaning) : known, SS_NOPREFIX, 0);
+  if (!kind) return;
+  for (const ItemField& field : kind->fields) {
+    if (std::holds_alternative<Text>(field.value)) AddText(field);
+  }
+  for (const ItemField& field : kind->fields) {
+    if (std::holds_alternative<Bits>(field.value)) AddBits(field);
+  }
+  if (data.IsTypeFolder()) AddBits(OptionsField());
+  if (data.IsTypeSelectionTask()) AddTaskView();
+  Label();
+}
+
+HWND PropertyPane::Make(const wchar_t* className, const std::wstring& text, DWORD style,
+                        DWORD exStyle) {
+  const auto id = static_cast<INT_PTR>(100 + m_rows.size());
+  const HWND control =
+      CreateWindowExW(exStyle, className, text.c_str(), style | WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
+                      Handle(), reinterpret_cast<HMENU>(id), m_program.instance, nullptr);
+  SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(m_font), FALSE);
+  return control;
+}
+
+void PropertyPane::AddTip(HWND control, std::string_view meaning) {
+  std::wstring text = Wide(meaning);
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = Handle();
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  tool.lpszText = text.data();
+  SendMessageW(m_tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void PropertyPane::AddText(const ItemField& field) {
+  Row row;
+  row.field = &field;
+  row.label = Make(L"STATIC", designer::LabelOf(field.name), SS_LEFT, 0);
+  if (IsSpecialFolder(row)) {
+    row.control = Make(L"COMBOBOX", L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 0);
+    FillSpecialFolders(row);
+  } else {
+    row.control = Make(L"EDIT", L"", ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE);
+    SendMessageW(row.control, EM_SETLIMITTEXT, DefinitionFile::MaxLength, 0);
+    if (CanBrowse(field.use)) row.browse = Make(L"BUTTON", L"...", BS_PUSHBUTTON | WS_TABSTOP, 0);
+  }
+  AddTip(row.control, field.meaning);
+  m_rows.push_back(row);
+}
+
+void PropertyPane::AddBits(const ItemField& field) {
+  for (const NamedBit& bit : field.bits) {
+    if (bit.name == "leaf") continue;
+    Row row;
+    row.field = &field;
+    row.bit = &bit;
+    row.control = Make(L"BUTTON", designer::LabelOf(bit.name), BS_AUTOCHECKBOX | WS_TABSTOP, 0);
+    AddTip(row.control, bit.meaning);
+    m_rows.push_back(row);
+  }
+}
+
+void PropertyPane::AddTaskView() {
+  m_task =
+      Make(L"EDIT", L"", ES_MULTILINE | ES_READONLY | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE);
+  ShowTask();
+}
+
+/// Gives each label its letter; none that opens a menu of the menu bar.
+void PropertyPane::Label() {
+  std::vector<std::wstring> labels;
+  for (const Row& row : m_rows)
+    labels.push_back(designer::LabelOf(row.bit ? row.bit->name : row.field->name));
+  designer::AddAccessKeys(labels, KeysOfMenuBar);
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    SetWindowTextW(m_rows[i].bit ? m_rows[i].control : m_rows[i].label, labels[i].c_str());
+}
+
+bool PropertyPane::IsSpecialFolder(const Row& row) const {
+  return row.field->use == FieldUse::Folder && m_item->data.IsTypeFolder() &&
+         m_item->data.OptionsIsCSIDL();
+}
+
+void PropertyPane::FillSpecialFolders(Row& row) {
+  Shell& shell = m_program.platform.shell;
+  for (int csidl = 0; csidl <= LastSpecialFolder; ++csidl) {
+    const std::wstring name = GetSpecialFolderName(shell, WindowHandle::None, csidl, true);
+    if (name.empty()) continue;
+    const LRESULT index =
+        SendMessageW(row.control, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    SendMessageW(row.control, CB_SETITEMDATA, static_cast<WPARAM>(index), csidl);
+  }
+}
+
+void PropertyPane::Fill() {
+  m_filling = true;
+  for (Row& row : m_rows) Fill(row);
+  m_filling = false;
+}
+
+void PropertyPane::Fill(Row& row) {
+  const clsOrvaneData& data = m_item->data;
+  if (row.bit) {
+    const bool on = (data.*std::get<Bits>(row.field->value) & row.bit->bit) != 0;
+    SendMessageW(row.control, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED, 0);
+    return;
+  }
+  const std::wstring text(data.*std::get<Text>(row.field->value));
+  if (IsSpecialFolder(row)) {
+    const LRESULT count = SendMessageW(row.control, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      const LRESULT csidl = SendMessageW(row.control, CB_GETITEMDATA, static_cast<WPARAM>(i), 0);
+      if (std::to_wstring(csidl) == text)
+        SendMessageW(row.control, CB_SETCURSEL, static_cast<WPARAM>(i), 0);
+    }
+  } else if (TextOf(row.control) != text) {
+    SetWindowTextW(row.control, text.c_str());
+  }
+}
+
+void PropertyPane::Refresh(MenuItem& item) {
+  if (&item != m_item) return;
+  const bool wasSpecial = std::ranges::any_of(m_rows, [](const Row& row) {
+    return row.field->use == FieldUse::Folder && !row.browse && !row.bit;
+  });
+  if (item.data.IsTypeFolder() && wasSpecial != item.data.OptionsIsCSIDL()) {
+    m_item = nullptr;
+    return Show(&item);
+  }
+  Fill();
+  ShowTask();
+}
+
+void PropertyPane::ShowTask() {
+  if (!m_task || !m_item) return;
+  std::wstring text = L"With " + m_program.sample.Text() + L":\r\n";
+  try {
+    const designer::TaskText made = designer::TaskTextOf(
+        m_item->data, m_program.sample, m_program.platform, m_program.globals.actionServices);
+    text += made.commandLine + L"\r\nList:\r\n" + made.fileList;
+  } catch (const Error& error) {
+    text += error.Description();
+  }
+  SetWindowTextW(m_task, text.c_str());
+}
+
+int PropertyPane::LabelWidth() const {
+  LONG width = 0;
+  for (const Row& row : m_rows) {
+    if (row.label)
+      width = std::max(width, SizeOfText(Handle(), m_font, TextOf(row.label).c_str()).cx);
+  }
+  return width + Scaled(8, m_dpi);
+}
+
+void PropertyPane::Place(HWND control, int x, int y, int width, int height) const {
+  if (control)
+    SetWindowPos(control, nullptr, x, y - m_scrolled, std::max(width, 0), height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void PropertyPane::Arrange() {
+  RECT client{};
+  GetClientRect(Handle(), &client);
+  const int gap = Scaled(8, m_dpi);
+  const int line = SizeOfText(Handle(), m_font, L"Ag").cy + Scaled(8, m_dpi);
+  const int step = line + Scaled(5, m_dpi);
+  const int right = client.right - gap;
+  const int fields = gap + LabelWidth();
+  int y = gap;
+  Place(m_kind, gap, y, right - gap, line);
+  y += step;
+  for (const Row& row : m_rows) {
+    const int browse = row.browse ? Scaled(28, m_dpi) : 0;
+    Place(row.label, gap, y + Scaled(3, m_dpi), fields - gap, line - Scaled(3, m_dpi));
+    if (row.browse) Place(row.browse, right - browse, y, browse, line);
+    const int end = right - (browse ? browse + Scaled(4, m_dpi) : 0);
+    const bool isList = row.label && !row.browse && row.field->use == FieldUse::Folder;
+    Place(row.control, fields, y, end - fields, isList ? 10 * line : line);
+    y += step;
+  }
+  if (m_task) {
+    const int height = std::max(static_cast<int>(client.bottom) - y - gap, 4 * line);
+    Place(m_task, gap, y, right - gap, height);
+    y += height + gap;
+  }
+  m_height = y;
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_PAGE | SIF_RANGE | SIF_POS;
+  info.nMax = m_height - 1;
+  info.nPage = static_cast<UINT>(client.bottom);
+  info.nPos = m_scrolled;
+  SetScrollInfo(Handle(), SB_VERT, &info, TRUE);
+}
+
+void PropertyPane::ScrollTo(int position) {
+  RECT client{};
+  GetClientRect(Handle(), &client);
+  const int most = std::max(0, m_height - static_cast<int>(client.bottom));
+  const int wanted = std::clamp(position, 0, most);
+  if (wanted == m_scrolled) return;
+  m_scrolled = wanted;
+  Arrange();
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void PropertyPane::ScrollBy(WORD request) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(Handle(), SB_VERT, &info);
+  const int line = Scaled(24, m_dpi);
+  switch (request) {
+    case SB_LINEUP:
+      return ScrollTo(m_scrolled - line);
+    case SB_LINEDOWN:
+      return ScrollTo(m_scrolled + line);
+    case SB_PAGEUP:
+      return ScrollTo(m_scrolled - static_cast<int>(info.nPage));
+    case SB_PAGEDOWN:
+      return ScrollTo(m_scrolled + static_cast<int>(info.nPage));
+    case SB_THUMBTRACK:
+      return ScrollTo(info.nTrackPos);
+    default:
+      return;
+  }
+}
+
+void PropertyPane::RevealControl(HWND control) {
+  RECT client{};
+  GetClientRect(Handle(), &client);
+  RECT rect{};
+  GetWindowRect(control, &rect);
+  MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&rect), 2);
+  if (rect.top < 0)
+    ScrollTo(m_scrolled + rect.top - Scaled(8, m_dpi));
+  else if (rect.bottom > client.bottom)
+    ScrollTo(m_scrolled + rect.bottom - client.bottom + Scaled(8, m_dpi));
+}
+
+const PropertyPane::Row* PropertyPane::RowOf(HWND control) const {
+  const auto found = std::ranges::find_if(
+      m_rows, [&](const Row& row) { return row.control == control || row.browse == control; });
+  return found == m_rows.end() ? nullptr : &*found;
+}
+
+void PropertyPane::Command(WORD, WORD notification, HWND control) {
+  const Row* row = RowOf(control);
+  if (!row || m_filling) return;
+  const bool isButton = row->bit || control == row->browse;
+  const bool isList = !isButton && IsSpecialFolder(*row);
+  if (isButton ? notification == BN_SETFOCUS
+      : isList ? notification == CBN_SETFOCUS
+               : notification == EN_SETFOCUS)
+    return RevealControl(control);
+  if (control == row->browse) {
+    if (notification == BN_CLICKED) Browse(*row);
+  } else if (isButton ? notification == BN_CLICKED
+             : isList ? notification == CBN_SELCHANGE
+                      : notification == EN_CHANGE) {
+    Edited(*row);
+  } else if (!isButton && !isList && notification == EN_KILLFOCUS && onPause) {
+    onPause();
+  }
+}
+
+void PropertyPane::Edited(const Row& row) {
+  clsOrvaneData data = m_item->data;
+  if (row.bit) {
+    const bool on = SendMessageW(row.control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    std::int32_t& bits = data.*std::get<Bits>(row.field->value);
+    bits = on ? bits | row.bit->bit : bits & ~row.bit->bit;
+  } else if (IsSpecialFolder(row)) {
+    const auto chosen = static_cast<WPARAM>(SendMessageW(row.control, CB_GETCURSEL, 0, 0));
+    const LRESULT csidl = SendMessageW(row.control, CB_GETITEMDATA, chosen, 0);
+    data.*std::get<Text>(row.field->value) = std::to_wstring(csidl);
+  } else {
+    data.*std::get<Text>(row.field->value) = TextOf(row.control);
+  }
+  const std::string_view name = row.bit ? row.bit->name : row.field->name;
+  if (onChange) onChange(*m_item, std::move(data), L"Change " + designer::LabelOf(name));
+}
+
+void PropertyPane::Browse(const Row& row) {
+  const std::wstring chosen = row.field->use == FieldUse::Folder
+                                  ? AskFolder(Handle(), TextOf(row.control))
+                                  : AskFile(Handle(), Files::Any, TextOf(row.control));
+  if (!chosen.empty()) SetWindowTextW(row.control, chosen.c_str());
+}
+
+void PropertyPane::FocusField(const std::string& name) {
+  for (const Row& row : m_rows) {
+    if (!name.empty() && row.field->name != name) continue;
+    SetFocus(row.control);
+    if (!row.bit) SendMessageW(row.control, EM_SETSEL, 0, -1);
+    return;
+  }
+}
+
+LRESULT PropertyPane::Message(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      Command(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+      return 0;
+    case WM_SIZE:
+      ScrollTo(m_scrolled);
+      Arrange();
+      return 0;
+    case WM_VSCROLL:
+      ScrollBy(LOWORD(wParam));
+      return 0;
+    case WM_MOUSEWHEEL:
+      ScrollTo(m_scrolled - GET_WHEEL_DELTA_WPARAM(wParam) * Scaled(72, m_dpi) / WHEEL_DELTA);
+      return 0;
+    default:
+      return Default(message, wParam, lParam);
+  }
+}
+
+}  // namespace orvane::designerapp
