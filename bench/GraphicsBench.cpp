@@ -6,63 +6,52 @@
 #include <string>
 #include <vector>
 
-#include "graphics/MenuBitmaps.h"
 #include "graphics/OwnerDrawMenu.h"
 #include "memory/Desktop.h"
 
 namespace orvane {
 namespace {
 
-class Bench : private MenuItemLookup {
- public:
-  explicit Bench(std::size_t entries) : records(entries) {
-    LoadMenuBitmaps(desktop.gdi, bitmaps);
+struct Bench {
+  explicit Bench(std::size_t entries) {
     for (std::size_t i = 0; i < entries; ++i) {
-      records[i].m_lType = clsOrvaneData::TypeFile;
-      records[i].Caption(L"Entry " + std::to_wstring(i) + L".txt");
-      records[i].Location(L"C:\\folder\\" + records[i].Caption());
-      desktop.files.AddFile(records[i].Location());
+      auto record = std::make_shared<clsOrvaneData>();
+      record->m_lType = clsOrvaneData::TypeFile;
+      record->Caption(L"Entry " + std::to_wstring(i) + L".txt");
+      record->Location(L"C:\\folder\\" + record->Caption());
+      desktop.files.AddFile(record->Location());
+      Command& command = commands.emplace_back(table.Add(std::move(record)));
+      command.Id(static_cast<std::int32_t>(i));
+      command.IsFileName(true);
     }
   }
-  ~Bench() override { DeleteMenuBitmaps(desktop.gdi, bitmaps); }
 
-  void Fill(std::int32_t bitmapKey, bool ownerDraw) {
+  void Fill(Picture picture, bool ownerDraw) {
     options.m_bShellOwnerDraw = ownerDraw;
     const UniqueMenu menu(desktop.menus, desktop.menus.CreatePopup());
-    for (std::size_t i = 0; i < records.size(); ++i) {
-      drawing.AddMenuWithBitmap({.menu = menu.get(),
-                                 .caption = records[i].Caption(),
-                                 .id = static_cast<std::int32_t>(i),
-                                 .bitmapKey = bitmapKey,
-                                 .fileName = true,
-                                 .record = &records[i]});
-    }
+    for (const Command& command : commands)
+      drawing.AddMenuWithBitmap(
+          menu.get(), Menus::Append,
+          {.command = command, .caption = command.Record()->Caption(), .picture = picture});
   }
 
   void Insert() {
     const UniqueMenu menu(desktop.menus, desktop.menus.CreatePopup());
-    for (std::size_t i = 0; i < records.size(); ++i) {
+    for (const Command& command : commands) {
       MenuEntry entry;
-      entry.caption = records[i].Caption();
-      entry.id = static_cast<std::uint32_t>(i);
+      entry.caption = command.Record()->Caption();
+      entry.id = static_cast<std::uint32_t>(command.Id());
       desktop.menus.Insert(menu.get(), Menus::Append, entry);
     }
   }
 
   memory::Desktop desktop;
   clsOptions options;
-  clsCollection bitmaps;
-  std::vector<clsOrvaneData> records;
-  OwnerDrawMenu drawing{options,       desktop.menus, desktop.gdi, desktop.icons,
-                        desktop.files, bitmaps,       *this};
-
- private:
-  std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) override {
-    return records[static_cast<std::size_t>(lId)].Caption();
-  }
-  BitmapHandle OwnerDrawMenu_HasBitmap(std::int32_t lId) override {
-    return drawing.Picture(records[static_cast<std::size_t>(lId)]);
-  }
+  CommandTable table;
+  std::vector<Command> commands;
+  PictureStore pictures{desktop.gdi, desktop.icons, desktop.files};
+  MenuPainter painter{desktop.gdi};
+  OwnerDrawMenu drawing{options, desktop.menus, pictures, painter};
 };
 
 void RawInsertion(benchmark::State& state) {
@@ -73,40 +62,36 @@ BENCHMARK(RawInsertion)->Arg(1000)->Arg(5000);
 
 void TextEntries(benchmark::State& state) {
   Bench bench(static_cast<std::size_t>(state.range(0)));
-  for (auto _ : state) bench.Fill(0, true);
+  for (auto _ : state) bench.Fill(Picture::None, true);
 }
 BENCHMARK(TextEntries)->Arg(1000)->Arg(5000);
 
 void OwnerDrawnFiles(benchmark::State& state) {
   Bench bench(static_cast<std::size_t>(state.range(0)));
-  for (auto _ : state) bench.Fill(OwnerDrawMenu::OwnIcon, true);
+  for (auto _ : state) bench.Fill(Picture::OwnIcon, true);
 }
 BENCHMARK(OwnerDrawnFiles)->Arg(1000)->Arg(5000);
 
 void CheckMarkFiles(benchmark::State& state) {
   Bench bench(static_cast<std::size_t>(state.range(0)));
-  for (auto _ : state) bench.Fill(OwnerDrawMenu::OwnIcon, false);
+  for (auto _ : state) bench.Fill(Picture::OwnIcon, false);
 }
 BENCHMARK(CheckMarkFiles)->Arg(1000)->Arg(5000);
 
-void MenuBitmaps(benchmark::State& state) {
+void AllPictures(benchmark::State& state) {
   memory::Desktop desktop;
   for (auto _ : state) {
-    clsCollection bitmaps;
-    LoadMenuBitmaps(desktop.gdi, bitmaps);
-    DeleteMenuBitmaps(desktop.gdi, bitmaps);
+    PictureStore pictures(desktop.gdi, desktop.icons, desktop.files);
+    for (std::int32_t key = 1; key <= 9; ++key) pictures.Find(static_cast<Picture>(key));
   }
 }
-BENCHMARK(MenuBitmaps);
+BENCHMARK(AllPictures);
 
 void MeasureEntries(benchmark::State& state) {
   Bench bench(1000);
   for (auto _ : state) {
-    for (std::int32_t id = 0; id < 1000; ++id) {
-      MeasureItem item{.id = id};
-      bench.drawing.HandleMessage(MenuMessage::MeasureItem, 0,
-                                  reinterpret_cast<std::intptr_t>(&item));
-    }
+    for (const Command& command : bench.commands)
+      benchmark::DoNotOptimize(bench.painter.Measure(command.Record()->Caption(), true));
   }
 }
 BENCHMARK(MeasureEntries);

@@ -84,9 +84,10 @@ void BM_OpenDynamicFolder(benchmark::State& state) {
     const MenuHandle menu = desktop.menus.CreatePopup();
     auto handler = std::make_unique<ContextMenuHandler>(globals);
     handler->IContextMenu_QueryContextMenuEx(menu, 0, 1, 32767, 0);
-    const std::int32_t submenu = handler->State().m_colDynamicMenus.Item(1)->m_lKey;
+    MenuHandle submenu = MenuHandle::None;
+    handler->State().dynamicMenus.ForEach([&](MenuHandle only) { submenu = only; });
     state.ResumeTiming();
-    handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, submenu, 0, nullptr);
+    handler->Menu().Open(submenu);
     state.PauseTiming();
     handler.reset();
     desktop.menus.Destroy(menu);

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "customactions/clsCustomActions.h"
-#include "menudata/clsCollection.h"
+#include "menudata/CommandTable.h"
 #include "menudata/clsMRU.h"
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneDataTools.h"
@@ -28,7 +28,7 @@ struct CommandContext {
   clsMRU& g_CopyToMRU;
   const clsOrvaneDataTools& tools;
 
-  const clsCollection& m_colMenuItems;  // by absolute command identifier
+  const CommandTable& commands;  // of the menu
   std::int32_t m_lIdCmdFirst = 0;
   std::shared_ptr<DataObject> m_pDataObject;  // null without a selection
   std::wstring m_szSelectedItem;

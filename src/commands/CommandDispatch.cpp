@@ -138,19 +138,11 @@ bool IsOpen(const CommandContext& context, const InvokeRequest& request) {
   return LowerCase(request.verb) == L"open" && !context.CurrentFile.empty();
 }
 
-/// The entry's node, which has a record; null when there is none.
-clsCollection::Node Find(const CommandContext& context, std::int32_t id) {
-  // Below the first identifier lies only the key that nodes without an entry share.
-  if (id >= context.m_lIdCmdFirst) {
-    clsCollection::Node node = context.m_colMenuItems.ItemViaKey(id);
-    if (node && node->m_oData) return node;
-  }
-  Log(L"Entry not found!");
-  return nullptr;
-}
-
-Record RecordOf(const clsCollection::Node& node) {
-  return std::static_pointer_cast<clsOrvaneData>(node->m_oData);
+/// The menu's item of that identifier, or none.
+Command Find(const CommandContext& context, std::int32_t id) {
+  const Command command = context.commands.Find(id);
+  if (!command) Log(L"Entry not found!");
+  return command;
 }
 
 void ToggleDebugging(const CommandContext& context) {
@@ -183,10 +175,10 @@ Record Identify(const InvokeRequest& request, Call& call) {
     ToggleDebugging(context);
     return nullptr;
   }
-  const clsCollection::Node node = Find(context, lCmdKey);
-  if (!node) return nullptr;
-  Record item = RecordOf(node);
-  Log(L"Index=", node->Index);
+  const Command command = Find(context, lCmdKey);
+  if (!command) return nullptr;
+  Record item = command.Record();
+  Log(L"Index=", command.Index());
   Log(L"m_lType=", item->m_lType, L"  m_lOptions=", item->m_lOptions);
   return item;
 }
@@ -251,9 +243,9 @@ CommandText IContextMenu_GetCommandString(const CommandContext& context,
         L"  cchMax=", request.cchMax);
     const std::int32_t id = CommandId(context, request.idCmd);
     Log(L"Actual Command Id=", id);
-    const clsCollection::Node node = Find(context, id);
-    if (!node) return {};
-    const Record item = RecordOf(node);
+    const Command command = Find(context, id);
+    if (!command) return {};
+    const Record item = command.Record();
     Log(L"m_lType=", item->m_lType, L"  ", item->IsTypeFolder());
     std::wstring text =
         context.tools.GetExplorerDescription(*item, context.CurrentFile, context.CurrentFolder);

@@ -39,37 +39,35 @@ UniqueBitmap Scaled(Gdi& gdi, BitmapHandle bitmap) {
 
 }  // namespace
 
-BitmapHandle ReplaceBitmapColour(Gdi& gdi, std::int32_t lResId, Colour lFromRGB, Colour lToRGB,
+UniqueBitmap ReplaceBitmapColour(Gdi& gdi, std::int32_t lResId, Colour lFromRGB, Colour lToRGB,
                                  std::uintptr_t hInstance) {
   TraceScope scope(L"ReplaceBitmapColour");
   Log(L"lResId=", lResId, L"  lFromRGB=", Hex(static_cast<std::int32_t>(lFromRGB)), L"  lToRGB=",
       Hex(static_cast<std::int32_t>(lToRGB)), L"  hInstance=",
       Hex(static_cast<std::int32_t>(hInstance)));
-  const BitmapHandle bitmap = gdi.LoadMapped(hInstance, lResId, lFromRGB, lToRGB);
-  Log(L"ReplaceBitmapColour=", Hex(bitmap));
+  UniqueBitmap bitmap(gdi, gdi.LoadMapped(hInstance, lResId, lFromRGB, lToRGB));
+  Log(L"ReplaceBitmapColour=", Hex(bitmap.get()));
   return bitmap;
 }
 
-BitmapHandle ScaleBMP(Gdi& gdi, BitmapHandle bitmap, bool deleteSource) {
+UniqueBitmap ScaleBMP(Gdi& gdi, BitmapHandle bitmap) {
   TraceScope scope(L"ScaleBMP");
   Log(L"hBitmap1=", Hex(bitmap));
-  UniqueBitmap scaled = Scaled(gdi, bitmap);
-  if (deleteSource && bitmap != BitmapHandle::None) gdi.FreeBitmap(bitmap);
-  return scaled.release();
+  return Scaled(gdi, bitmap);
 }
 
-BitmapHandle IconToBitmap(Gdi& gdi, DeviceContext context, IconHandle icon,
+UniqueBitmap IconToBitmap(Gdi& gdi, DeviceContext context, IconHandle icon,
                           std::int32_t colourIndex, std::int32_t size, std::int32_t flags) {
   TraceScope scope(L"IconToBitmap");
   const std::int32_t drawn = (flags & SmallerIcon) != 0 ? size - size / 8 : size;
   UniqueBitmap bitmap(gdi, gdi.CreateCompatible(context, {size, size}));
   const UniqueBrush brush(gdi, gdi.SolidBrush(gdi.SystemColour(colourIndex + 1)));
-  if (!bitmap || !brush) return BitmapHandle::None;
+  if (!bitmap || !brush) return {};
 
   const Selected selected(gdi, context, bitmap.get());
   const bool complete = selected && gdi.Fill(context, {0, 0, drawn, drawn}, brush.get()) &&
                         gdi.PaintIcon(context, icon, {drawn, drawn});
-  return complete ? bitmap.release() : BitmapHandle::None;
+  return complete ? std::move(bitmap) : UniqueBitmap();
 }
 
 }  // namespace orvane

@@ -7,38 +7,121 @@
 namespace orvane {
 namespace {
 
-constexpr std::int32_t FirstResource = 101;  // of the bitmap with key 1
-constexpr std::int32_t LoadingOrder[] = {2, 1, 3, 4, 5, 6, 7, 8, 9};
+constexpr std::int32_t FirstResource = 101;  // of Picture::Mark
 constexpr Colour MaskColour = Rgb(255, 0, 255);
 
-void Free(Gdi& gdi, std::int32_t bitmap) {
-  if (bitmap != 0) gdi.FreeBitmap(ToHandle<BitmapHandle>(bitmap));
+struct OwnedBitmaps : Object {
+  OwnedBitmaps(UniqueBitmap scaledOne, UniqueBitmap fullOne)
+      : scaled(std::move(scaledOne)), full(std::move(fullOne)) {}
+
+  UniqueBitmap scaled;
+  UniqueBitmap full;
+};
+
+struct FileToFetch : Object {
+  explicit FileToFetch(IconFile iconFile) : file(std::move(iconFile)) {}
+
+  IconFile file;
+};
+
+/// The hidden surface on which icons are turned into bitmaps: a memory context that holds bitmaps
+/// of the screen's kind, which a fresh one does not.
+class PictureSurface {
+ public:
+  explicit PictureSurface(Gdi& gdi)
+      : m_screen(gdi, gdi.OpenScreen()),
+        m_context(gdi, gdi.CreateContext()),
+        m_bitmap(gdi, gdi.CreateCompatible(m_screen.get(), {1, 1})),
+        m_selected(gdi, m_context.get(), m_bitmap.get()) {}
+
+  explicit operator bool() const { return static_cast<bool>(m_selected); }
+  DeviceContext get() const { return m_context.get(); }
+
+ private:
+  UniqueScreen m_screen;
+  UniqueContext m_context;
+  UniqueBitmap m_bitmap;
+  Selected<BitmapHandle> m_selected;
+};
+
+constexpr std::int32_t Key(Picture picture) {
+  return static_cast<std::int32_t>(picture);
+}
+
+bool IsToFetch(const PictureStore::Node& picture) {
+  return picture && picture->m_lKey == Key(Picture::OwnIcon);
 }
 
 }  // namespace
 
-void LoadMenuBitmaps(Gdi& gdi, clsCollection& bitmaps) {
-  const Colour menuColour = gdi.SystemColour(ColConst::Menu);
-  for (const std::int32_t key : LoadingOrder) {
-    UniqueBitmap normal(gdi,
-                        ReplaceBitmapColour(gdi, FirstResource + key - 1, MaskColour, menuColour));
-    if (!normal) continue;
-    UniqueBitmap scaled(gdi, ScaleBMP(gdi, normal.get(), false));
-    const clsCollection::Node node = bitmaps.Add({}, key);
-    node->m_lData = ToNumber(scaled.release());
-    node->m_lData2 = ToNumber(normal.release());
-  }
-  for (const clsCollection::Node& node : bitmaps)
-    Log(L"Index=", node->Index, L"  Bitmap=", Hex(node->m_lData), L"  lBitmapKey=",
-        std::int32_t{node->m_lKey});
+PictureStore::Node PictureStore::Find(Picture picture) {
+  if (picture < Picture::Mark || picture > Picture::Popup) return {};
+  const auto [place, isNew] = m_pictures.try_emplace(picture);
+  if (isNew) place->second = Load(picture);
+  return place->second;
 }
 
-void DeleteMenuBitmaps(Gdi& gdi, clsCollection& bitmaps) {
-  for (const clsCollection::Node& node : bitmaps) {
-    Free(gdi, node->m_lData);
-    Free(gdi, node->m_lData2);
-  }
-  bitmaps.Clear();
+PictureStore::Node PictureStore::Load(Picture picture) {
+  const Colour menuColour = m_gdi.SystemColour(ColConst::Menu);
+  UniqueBitmap full =
+      ReplaceBitmapColour(m_gdi, FirstResource + Key(picture) - 1, MaskColour, menuColour);
+  if (!full) return {};
+  UniqueBitmap scaled = ScaleBMP(m_gdi, full.get());
+  Node node = Keep(Key(picture), std::move(scaled), std::move(full));
+  Log(L"Index=", node->Index, L"  Bitmap=", Hex(node->m_lData), L"  lBitmapKey=", Key(picture));
+  return node;
+}
+
+PictureStore::Node PictureStore::FindIcon(const IconFile& file, std::int32_t size) {
+  const std::optional<SystemIcon> icon = m_finder.Find(file);
+  if (!icon) return Find(Picture::UnknownFile);
+  const auto [place, isNew] = m_converted.try_emplace({icon->imageList, icon->index});
+  if (isNew) place->second = Convert(*icon, size);
+  return place->second ? place->second : Find(Picture::UnknownFile);
+}
+
+PictureStore::Node PictureStore::Convert(const SystemIcon& icon, std::int32_t size) {
+  const UniqueIcon taken(m_icons, m_icons.Take(icon, size));
+  Log(L"hImageList=", Hex(static_cast<std::int32_t>(icon.imageList)), L"  iIcon=", icon.index,
+      L"  hIcon=", Hex(taken.get()));
+  if (!taken) return {};
+  const PictureSurface surface(m_gdi);
+  Log(L"m_frmTemp.picTemp.hDC=", Hex(surface.get()));
+  if (!surface) return {};
+
+  UniqueBitmap full = IconToBitmap(m_gdi, surface.get(), taken.get(), ColConst::Menu, size, 0);
+  Log(L"hBitmap=", Hex(full.get()));
+  if (!full) return {};
+  UniqueBitmap scaled =
+      IconToBitmap(m_gdi, surface.get(), taken.get(), ColConst::Menu, size, SmallerIcon);
+  Log(L"Adding to bitmap collection");
+  return Keep(Key(Picture::None), std::move(scaled), std::move(full));
+}
+
+PictureStore::Node PictureStore::Keep(std::int32_t key, UniqueBitmap scaled, UniqueBitmap full) {
+  auto owner = std::make_shared<OwnedBitmaps>(std::move(scaled), std::move(full));
+  Node node = m_colBitmaps.Add({}, key);
+  node->m_lData = ToNumber(owner->scaled.get());
+  node->m_lData2 = ToNumber(owner->full.get());
+  node->m_oData = std::move(owner);
+  return node;
+}
+
+PictureStore::Node PictureStore::IconToFetch(IconFile file) {
+  auto node = std::make_shared<clsCollection>();
+  node->m_lKey = Key(Picture::OwnIcon);
+  node->m_oData = std::make_shared<FileToFetch>(std::move(file));
+  return node;
+}
+
+BitmapHandle PictureStore::Full(Node& picture, std::int32_t size) {
+  if (IsToFetch(picture))
+    picture = FindIcon(static_cast<const FileToFetch&>(*picture->m_oData).file, size);
+  return picture ? ToHandle<BitmapHandle>(picture->m_lData2) : BitmapHandle::None;
+}
+
+BitmapHandle PictureStore::CheckMark(const Node& picture) {
+  return picture ? ToHandle<BitmapHandle>(picture->m_lData) : BitmapHandle::None;
 }
 
 }  // namespace orvane

@@ -30,22 +30,31 @@ std::int32_t TextColourIndex(const DrawItem& item) {
 
 }  // namespace
 
-void MenuPainter::Measure(MeasureItem& item, const std::wstring& text) {
+std::wstring DoubleAmpersands(const std::wstring& name) {
+  std::wstring doubled;
+  for (wchar_t character : name) doubled.append(character == L'&' ? 2 : 1, character);
+  return doubled;
+}
+
+Size MenuPainter::Measure(std::wstring caption, bool isFileName) {
+  caption.erase(caption.find_last_not_of(L' ') + 1);
+  if (!isFileName) std::erase(caption, L'&');
   Size extent;
   {
     const UniqueContext context(m_gdi, m_gdi.CreateContext());
     const Selected font(m_gdi, context.get(), Font());
-    extent = m_gdi.MeasureText(context.get(), text).value_or(Size());
+    extent = m_gdi.MeasureText(context.get(), caption).value_or(Size());
   }
   Log(L"Length=", extent.width, L"  Height=", extent.height);
-  item.width = extent.width + Pixels(25);
-  item.height = Pixels(20);
+  return {extent.width + Pixels(25), Pixels(20)};
 }
 
-void MenuPainter::Draw(const DrawItem& item, const std::wstring& caption, BitmapHandle picture) {
+void MenuPainter::Draw(const DrawItem& item, const std::wstring& caption, bool isFileName,
+                       BitmapHandle picture) {
   const Rect area = WithinLimits(item.rect);
   const Selected font(m_gdi, item.context, Font());
-  DrawCaption(item, area, caption, picture != BitmapHandle::None);
+  DrawCaption(item, area, isFileName ? DoubleAmpersands(caption) : caption,
+              picture != BitmapHandle::None);
   if (picture != BitmapHandle::None) DrawPicture(item, area, picture);
 }
 

@@ -8,6 +8,9 @@
 
 namespace orvane {
 
+/// In a text in which "&" marks the next letter, the name stands as it is.
+std::wstring DoubleAmpersands(const std::wstring& name);
+
 /// Measures and paints owner-drawn menu entries. Its sizes are those of an unscaled screen (96 dots
 /// per inch) and grow with the screen on which the menu opens; its colours are the system's at the
 /// moment of painting.
@@ -19,11 +22,13 @@ class MenuPainter {
   /// again. Asking for every entry would cost more than painting it.
   void MenuOpens();
 
-  /// `text` is what will be read: no marks in it.
-  void Measure(MeasureItem& item, const std::wstring& text);
+  /// The entry's size in pixels. In a caption "&" marks the next letter, unless it is a file's
+  /// name.
+  Size Measure(std::wstring caption, bool isFileName);
 
-  /// In the caption "&" underlines the next letter. The picture may be None.
-  void Draw(const DrawItem& item, const std::wstring& caption, BitmapHandle picture);
+  /// The picture may be None.
+  void Draw(const DrawItem& item, const std::wstring& caption, bool isFileName,
+            BitmapHandle picture);
 
   /// Side of a menu picture.
   std::int32_t PictureSize() { return Pixels(16); }

@@ -102,7 +102,7 @@ HRESULT ComContextMenuHandler::GetCommandString(UINT_PTR offset, UINT what, UINT
 }
 
 HRESULT ComContextMenuHandler::HandleMenuMsg(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  m_handler.IContextMenu2_HandleMenuMsg(message, static_cast<std::intptr_t>(wParam), lParam);
+  windowing::HandleMenuMsg(message, wParam, lParam);
   return S_OK;
 }
 
@@ -110,7 +110,7 @@ HRESULT ComContextMenuHandler::HandleMenuMsg2(UINT message, WPARAM wParam, LPARA
                                               LRESULT* result) noexcept {
   if (result) *result = 0;
   return Guarded(S_OK, [&] {
-    windowing::ForwardMenuMessage(m_handler, message, wParam, lParam, result);
+    windowing::HandleMenuMsg2(m_handler.Menu(), message, wParam, lParam);
     return S_OK;
   });
 }

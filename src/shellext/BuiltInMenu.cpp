@@ -10,7 +10,7 @@ namespace {
 using Data = clsOrvaneData;
 
 /// A command that its show flag switches on, where its condition holds.
-struct Command {
+struct ShownCommand {
   std::int32_t type;
   bool (clsOptions::*isShown)() const;
   bool (*applies)(const Selection&);
@@ -21,7 +21,7 @@ bool HasSelection(const Selection& selection) {
   return selection.m_lSelectionCount > 0;
 }
 
-constexpr Command Commands[] = {
+constexpr ShownCommand Commands[] = {
     {Data::TypeOpenInNewWindow, &clsOptions::ShowFlag_IsOpen,
      [](const Selection& selection) { return !selection.CurrentFile.empty(); },
      L"Adding Open in new window open"},
@@ -67,7 +67,7 @@ bool BuiltInMenu::AddQuickAccess() {
   if (!OpenList(display, Data::TypePopupQuickAccess, target) ||
       !AddListEntries(m_globals.g_QuickAccessMRU, target) || !m_writer.CanInsert())
     return false;
-  m_writer.InsertBuiltIn(target, Data::TypeAddToQuickAccessMRU, MenuWriter::AddBitmap);
+  m_writer.InsertBuiltIn(target, Data::TypeAddToQuickAccessMRU, Picture::Add);
   return true;
 }
 
@@ -78,7 +78,7 @@ bool BuiltInMenu::OpenList(std::int32_t display, std::int32_t popupType, Target&
   SeparateRoot();
   UniqueMenu popup = m_writer.CreatePopup();
   target = {popup.get()};
-  return m_writer.InsertBuiltIn(Root(), popupType, MenuWriter::NoBitmap, std::move(popup));
+  return m_writer.InsertBuiltIn(Root(), popupType, Picture::None, std::move(popup));
 }
 
 bool BuiltInMenu::AddListEntries(const clsMRU& list, const Target& target) {
@@ -86,20 +86,20 @@ bool BuiltInMenu::AddListEntries(const clsMRU& list, const Target& target) {
     if (!m_writer.CanInsert()) return false;
     auto record = std::make_shared<clsOrvaneData>();
     m_globals.tools.BreakdownHistoryMRU(list.File(i), *record);
-    MenuWriter::Item item;
+    MenuItem item;
     item.caption = L"&" + std::to_wstring(i) + L" " + clsMRU::GetShortenedName(record->Caption());
     if (record->OptionsIsBrowseAndOpen()) item.caption += L"...";
     item.trimCaption = true;
     DressListEntry(*record, item);
-    item.node = m_writer.AddNode(std::move(record));
+    item.command = m_state.commands.Add(std::move(record));
     m_writer.Insert(target, std::move(item));
   }
   return true;
 }
 
-void BuiltInMenu::DressListEntry(const clsOrvaneData& record, MenuWriter::Item& item) {
-  if (record.IsTypeFile()) item.bitmapKey = MenuWriter::OwnIcon;
-  if (record.IsTypeCustomAction()) item.bitmapKey = MenuWriter::ActionBitmap;
+void BuiltInMenu::DressListEntry(const clsOrvaneData& record, MenuItem& item) {
+  if (record.IsTypeFile()) item.picture = Picture::OwnIcon;
+  if (record.IsTypeCustomAction()) item.picture = Picture::Action;
   if (!record.IsTypeFolder()) return;
   try {
     m_writer.DressFolder(record, item);
@@ -113,7 +113,7 @@ bool BuiltInMenu::AddDesigner() {
   if (!m_writer.CanInsert()) return false;
   SeparateRoot();
   Log(L"Adding designer");
-  m_writer.InsertBuiltIn(Root(), Data::TypeDesigner, MenuWriter::DesignerBitmap);
+  m_writer.InsertBuiltIn(Root(), Data::TypeDesigner, Picture::Designer);
   return true;
 }
 
@@ -127,7 +127,7 @@ bool BuiltInMenu::AddResets() {
     if (list.FileCount() < 1) continue;
     if (!m_writer.CanInsert()) return false;
     if (!std::exchange(separated, true)) m_writer.InsertSeparator(Root());
-    m_writer.InsertBuiltIn(Root(), type, MenuWriter::ResetBitmap);
+    m_writer.InsertBuiltIn(Root(), type, Picture::Reset);
   }
   return true;
 }
@@ -137,7 +137,7 @@ void BuiltInMenu::AddCommands() {
   const Target target = inSubMenu ? Root() : ShellMenu();
   bool first = true;
   bool separated = false;
-  for (const Command& command : Commands) {
+  for (const ShownCommand& command : Commands) {
     if (!(m_globals.g_Options.*command.isShown)() || !command.applies(m_state.selection)) continue;
     if (!m_writer.CanInsert()) break;
     if (std::exchange(first, false) && m_writer.HasEntries(target.menu)) {
@@ -145,7 +145,7 @@ void BuiltInMenu::AddCommands() {
       separated = true;
     }
     Log(command.log);
-    m_writer.InsertBuiltIn(target, command.type, MenuWriter::NoBitmap);
+    m_writer.InsertBuiltIn(target, command.type, Picture::None);
   }
   if (separated && !inSubMenu) m_writer.InsertSeparator(target);
 }

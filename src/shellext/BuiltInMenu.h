@@ -27,7 +27,7 @@ class BuiltInMenu {
   void AddCommands();
   bool OpenList(std::int32_t display, std::int32_t popupType, Target& target);
   bool AddListEntries(const clsMRU& list, const Target& target);
-  void DressListEntry(const clsOrvaneData& record, MenuWriter::Item& item);
+  void DressListEntry(const clsOrvaneData& record, MenuItem& item);
   Target Root() const { return {m_state.m_hRootMenu}; }
   Target ShellMenu() { return {m_state.m_hMenu, &m_state.m_lMenuPosition}; }
   void SeparateRoot();

@@ -5,7 +5,6 @@
 
 #include "commands/HostWindow.h"
 #include "customactions/clsCustomActions.h"
-#include "graphics/MenuBitmaps.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SystemInfo.h"
 #include "shellext/BuiltInMenu.h"
@@ -26,7 +25,6 @@ constexpr const wchar_t* CopyToKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\
 constexpr std::int32_t CopyToCount = 7;
 
 constexpr std::int16_t ReadTimer = 1;
-constexpr std::int32_t RootBitmap = 1;
 
 std::wstring DescribeMenu(MenuHandle hMenu, std::int32_t indexMenu, std::int32_t idCmdFirst,
                           std::int32_t idCmdLast, std::uint32_t uFlags) {
@@ -41,19 +39,16 @@ void SaveUnsaved(clsMRU& list) {
   if (list.IsUnsaved()) list.Save();
 }
 
-void LogMessage(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam) {
-  Log(L"uMsg=", Hex(static_cast<std::int32_t>(uMsg)), L"  wParam=",
-      Hex(static_cast<std::int32_t>(wParam)), L"  lParam=", Hex(static_cast<std::int32_t>(lParam)));
-}
-
 }  // namespace
 
 ContextMenuHandler::ContextMenuHandler(ModuleGlobals& globals)
     : m_globals(globals),
-      m_drawing(globals.g_Options, globals.platform.menus, globals.platform.gdi,
-                globals.platform.icons, globals.platform.files, m_state.m_colBitmaps, *this),
+      m_state(globals.platform.gdi, globals.platform.icons, globals.platform.files),
+      m_painter(globals.platform.gdi),
+      m_drawing(globals.g_Options, globals.platform.menus, m_state.pictures, m_painter),
       m_writer(globals, m_state, m_drawing),
-      m_dynamic(globals, m_state, m_writer) {
+      m_dynamic(globals, m_state, m_writer),
+      m_openMenu(globals, m_state, m_painter, m_dynamic) {
   UserControl_Initialize();
 }
 
@@ -79,8 +74,6 @@ void ContextMenuHandler::UserControl_Initialize() {
     m_globals.g_HistoryMRU.Load(options.m_lShellMaxHistoryMRU);
     m_globals.g_QuickAccessMRU.Load(options.m_lShellMaxQuickAccessMRU);
     m_globals.g_CopyToMRU.Load(CopyToCount);
-    if (options.m_lShellShowIcons > clsOptions::OptionLevel_None)
-      LoadMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
   } catch (...) {
     scope.Caught();
   }
@@ -107,7 +100,6 @@ void ContextMenuHandler::UserControl_Terminate() {
   TraceScope scope(L"UserControl_Terminate");
   try {
     Log(L"Killing bitmaps");
-    DeleteMenuBitmaps(m_globals.platform.gdi, m_state.m_colBitmaps);
     Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
     if (--m_globals.g_lReferenceCount > 0) return;
     DestroyDynamicMenus();
@@ -121,10 +113,9 @@ void ContextMenuHandler::UserControl_Terminate() {
 // As a rule the shell has destroyed its menu by now, and these with it.
 void ContextMenuHandler::DestroyDynamicMenus() {
   Menus& menus = m_globals.platform.menus;
-  for (const auto& node : m_state.m_colDynamicMenus) {
-    const auto menu = ToHandle<MenuHandle>(node->m_lKey);
-    if (menus.Exists(menu)) menus.Destroy(menu);
-  }
+  m_state.dynamicMenus.ForEach([&](MenuHandle submenu) {
+    if (menus.Exists(submenu)) menus.Destroy(submenu);
+  });
 }
 
 std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
@@ -209,9 +200,9 @@ void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
     Log(L"idCmdLast=", idCmdLast);
   }
   m_state.ids = CommandIds(idCmdFirst, idCmdLast);
-  m_state.m_colMenuItems.Clear();
+  m_state.commands.Clear();
   // The submenus of an earlier menu belong to that menu; only this one's are filled from now on.
-  m_state.m_colDynamicMenus.Clear();
+  m_state.dynamicMenus.Clear();
   m_state.m_hMenu = hMenu;
   m_state.m_lMenuPosition = indexMenu;
   UniqueMenu root = m_writer.CreatePopup();
@@ -225,14 +216,13 @@ void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
   const std::int32_t rootPosition = m_state.m_lMenuPosition;
   if (!CreateMenu()) return;
   InsertRoot(std::move(root), rootPosition);
-  if (m_state.m_colMenuItems.Count() == 0) {
+  if (m_state.commands.Count() == 0) {
     Log(L"Nothing in the data!");
     return;
   }
-  const auto& first = static_cast<const clsOrvaneData&>(*m_state.m_colMenuItems.Item(1)->m_oData);
-  Log(L"Root=", first.Caption());
+  Log(L"Root=", m_state.commands.At(1).Record()->Caption());
   m_writer.InsertSeparator(shellMenu);
-  if (m_state.m_colDynamicMenus.Count() > 0) ReserveDynamicIds();
+  if (m_state.dynamicMenus.Count() > 0) ReserveDynamicIds();
 }
 
 void ContextMenuHandler::InsertDebugSwitch() {
@@ -247,8 +237,8 @@ void ContextMenuHandler::InsertRoot(UniqueMenu root, std::int32_t position) {
   MenuEntry entry;
   entry.caption = m_globals.g_szRootMenuCaption;
   entry.submenu = root.get();
-  if (const auto bitmap = m_state.m_colBitmaps.ItemViaKey(RootBitmap))
-    entry.bitmap = ToHandle<BitmapHandle>(bitmap->m_lData);
+  if (IsShown(Picture::Mark, m_globals.g_Options.m_lShellShowIcons))
+    entry.bitmap = PictureStore::CheckMark(m_state.pictures.Find(Picture::Mark));
   if (!m_globals.platform.menus.Insert(m_state.m_hMenu, position, entry)) return;
   root.release();
   ++m_state.m_lMenuPosition;
@@ -276,7 +266,7 @@ bool ContextMenuHandler::CreateMenu() {
     Log(L"Error: ", error.number, L" - ", error.description);
     result = false;
   }
-  Log(L"Read=", m_state.m_colMenuItems.Count(), L"  Num Commands=",
+  Log(L"Read=", m_state.commands.Count(), L"  Num Commands=",
       m_state.ids.Next() - m_state.ids.First());
   Log(L"RV=", result);
   StopReadTimer();
@@ -301,31 +291,11 @@ void ContextMenuHandler::Tell(const std::wstring& text, MessageBoxes::Icon icon)
   m_globals.platform.boxes.Show(text, g_szAppTitle, icon);
 }
 
-void ContextMenuHandler::IContextMenu2_HandleMenuMsg(std::uint32_t uMsg, std::intptr_t wParam,
-                                                     std::intptr_t lParam) noexcept {
-  TraceScope scope(L"IContextMenu2_HandleMenuMsg");
-  LogMessage(uMsg, wParam, lParam);
-}
-
-void ContextMenuHandler::IContextMenu3_HandleMenuMsg2(std::uint32_t uMsg, std::intptr_t wParam,
-                                                      std::intptr_t lParam,
-                                                      std::intptr_t* plResult) noexcept {
-  TraceScope scope(L"IContextMenu3_HandleMenuMsg2");
-  try {
-    LogMessage(uMsg, wParam, lParam);
-    if (!m_drawing.HandleMessage(uMsg, wParam, lParam) && uMsg == MenuMessage::InitMenuPopup)
-      m_dynamic.Open(ToHandle<MenuHandle>(static_cast<std::int32_t>(wParam)));
-  } catch (...) {
-    scope.Caught();
-  }
-  if (plResult) *plResult = 0;
-}
-
 CommandContext ContextMenuHandler::Context() const {
   const Selection& selection = m_state.selection;
   return {m_globals.platform,      m_globals.codePage,      m_globals.actionServices,
           m_globals.g_Options,     m_globals.g_HistoryMRU,  m_globals.g_QuickAccessMRU,
-          m_globals.g_CopyToMRU,   m_globals.tools,         m_state.m_colMenuItems,
+          m_globals.g_CopyToMRU,   m_globals.tools,         m_state.commands,
           m_state.ids.First(),     selection.m_pDataObject, selection.m_szSelectedItem,
           selection.CurrentFolder, selection.CurrentFile,   m_state.m_lNumWindowActions};
 }
@@ -352,37 +322,6 @@ bool ContextMenuHandler::IsIE(WindowHandle hWnd) {
 
 bool ContextMenuHandler::CanInsertMenuCommand(bool, bool) const {
   return m_writer.CanInsert();
-}
-
-clsOrvaneData* ContextMenuHandler::Record(std::int32_t lId) const {
-  Log(L"lID=", lId);
-  // Nodes that stand in no menu share one key, which is nobody's identifier.
-  const auto node =
-      lId == HandlerState::NoKey ? clsCollection::Node() : m_state.m_colMenuItems.ItemViaKey(lId);
-  if (!node) Log(L"Entry not found!");
-  return node ? static_cast<clsOrvaneData*>(node->m_oData.get()) : nullptr;
-}
-
-std::wstring ContextMenuHandler::OwnerDrawMenu_GetCaption(std::int32_t lId) {
-  TraceScope scope(L"OwnerDrawMenu_GetCaption");
-  const clsOrvaneData* record = Record(lId);
-  if (!record) return {};
-  Log(L"m_lType=", record->m_lType);
-  std::wstring caption = m_writer.Caption(*record);
-  Log(L"Caption=", caption);
-  return caption;
-}
-
-BitmapHandle ContextMenuHandler::OwnerDrawMenu_HasBitmap(std::int32_t lId) {
-  TraceScope scope(L"OwnerDrawMenu_HasBitmap");
-  clsOrvaneData* record = Record(lId);
-  if (!record) return BitmapHandle::None;
-  const BitmapHandle bitmap = m_drawing.Picture(*record);
-  if (bitmap == BitmapHandle::None)
-    Log(L"Bitmap not found!");
-  else
-    Log(L"Bitmap=", Hex(bitmap));
-  return bitmap;
 }
 
 }  // namespace orvane

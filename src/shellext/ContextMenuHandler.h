@@ -12,17 +12,20 @@
 #include "shellext/HandlerState.h"
 #include "shellext/MenuWriter.h"
 #include "shellext/ModuleGlobals.h"
+#include "shellext/OpenMenu.h"
 
 namespace orvane {
 
 /// What the shell talks to, without COM: made for one right-click, handed the folder and the
 /// selection, asked for its menu entries, told of the menu's messages, asked for help texts and
 /// told to run the chosen command. One thread; nothing thrown comes out of a method.
-class ContextMenuHandler : public MenuItemLookup {
+class ContextMenuHandler {
  public:
   /// Loads settings and lists anew. `globals` are the calling thread's and outlive the handler.
   explicit ContextMenuHandler(ModuleGlobals& globals);
-  ~ContextMenuHandler() override;
+  ~ContextMenuHandler();
+  ContextMenuHandler(const ContextMenuHandler&) = delete;
+  ContextMenuHandler& operator=(const ContextMenuHandler&) = delete;
 
   /// 0, or the HRESULT with which the data object refused its files.
   std::int32_t IShellExtInit_Initialize(ItemIdList pidlFolder,
@@ -34,13 +37,8 @@ class ContextMenuHandler : public MenuItemLookup {
                                                std::int32_t idCmdFirst, std::int32_t idCmdLast,
                                                std::uint32_t uFlags) noexcept;
 
-  /// Only logs; menu messages are handled by the newer form below.
-  void IContextMenu2_HandleMenuMsg(std::uint32_t uMsg, std::intptr_t wParam,
-                                   std::intptr_t lParam) noexcept;
-
-  /// A message of an open menu (graphics/MenuItemMessages.h); `plResult` may be null.
-  void IContextMenu3_HandleMenuMsg2(std::uint32_t uMsg, std::intptr_t wParam, std::intptr_t lParam,
-                                    std::intptr_t* plResult) noexcept;
+  /// Measures, paints and fills the menu while it is open.
+  OpenMenu& Menu() { return m_openMenu; }
 
   /// 0, or the failing HRESULT of the one command that reports one.
   std::int32_t IContextMenu_InvokeCommand(const InvokeRequest& request);
@@ -53,8 +51,12 @@ class ContextMenuHandler : public MenuItemLookup {
   WindowHandle GetRootOfficeWindow(WindowHandle hWnd);
   bool IsIE(WindowHandle hWnd);
   bool CanInsertMenuCommand(bool bShowError, bool bInternal) const;
-  std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) override;
-  BitmapHandle OwnerDrawMenu_HasBitmap(std::int32_t lId) override;
+  std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId) {
+    return m_openMenu.OwnerDrawMenu_GetCaption(lId);
+  }
+  BitmapHandle OwnerDrawMenu_HasBitmap(std::int32_t lId) {
+    return m_openMenu.OwnerDrawMenu_HasBitmap(lId);
+  }
 
   const HandlerState& State() const { return m_state; }
 
@@ -75,14 +77,15 @@ class ContextMenuHandler : public MenuItemLookup {
   void StopReadTimer() noexcept;
   void TellMenuInfo(const std::wstring& call, std::int64_t commands);
   void Tell(const std::wstring& text, MessageBoxes::Icon icon);
-  clsOrvaneData* Record(std::int32_t lId) const;
   CommandContext Context() const;
 
   ModuleGlobals& m_globals;
   HandlerState m_state;
+  MenuPainter m_painter;
   OwnerDrawMenu m_drawing;
   MenuWriter m_writer;
   DynamicFolders m_dynamic;
+  OpenMenu m_openMenu;
 };
 
 }  // namespace orvane

@@ -14,22 +14,21 @@ using Data = clsOrvaneData;
 /// How an item with a menu entry is dressed and logged.
 struct ItemKind {
   std::int32_t type;
-  std::int32_t bitmapKey;
+  Picture picture;
   bool popup;
   std::wstring_view log;
   std::wstring_view logLocation;  // empty: the location is not logged
 };
 
 constexpr ItemKind Kinds[] = {
-    {Data::TypeFile, MenuWriter::OwnIcon, false, L"Adding file: ", L"           : "},
-    {Data::TypeFolder, MenuWriter::OwnIcon, false, L"Adding folder: ", L"             : "},
-    {Data::TypePopupMenu, MenuWriter::NoBitmap, true, L"Adding popup: ", L""},
-    {Data::TypeDynamicFolder, MenuWriter::OwnIcon, true, L"Adding dfolder: ", L"              : "},
-    {Data::TypeSelectionTask, MenuWriter::TaskBitmap, false, L"Adding sel task: ",
-     L"               : "},
-    {Data::TypeCustomAction, MenuWriter::ActionBitmap, false, L"Adding CustomAction: ",
+    {Data::TypeFile, Picture::OwnIcon, false, L"Adding file: ", L"           : "},
+    {Data::TypeFolder, Picture::OwnIcon, false, L"Adding folder: ", L"             : "},
+    {Data::TypePopupMenu, Picture::None, true, L"Adding popup: ", L""},
+    {Data::TypeDynamicFolder, Picture::OwnIcon, true, L"Adding dfolder: ", L"              : "},
+    {Data::TypeSelectionTask, Picture::Task, false, L"Adding sel task: ", L"               : "},
+    {Data::TypeCustomAction, Picture::Action, false, L"Adding CustomAction: ",
      L"                   : "},
-    {Data::TypeCopyToX, MenuWriter::OwnIcon, false, L"Adding copytox: ", L""},
+    {Data::TypeCopyToX, Picture::OwnIcon, false, L"Adding copytox: ", L""},
 };
 
 const ItemKind* FindKind(std::int32_t type) {
@@ -69,18 +68,18 @@ bool DefinitionMenu::ReadFile(DefinitionFile& file) {
 bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
   for (std::int32_t i = 1; i <= count; ++i) {
     auto record = std::make_shared<clsOrvaneData>();
-    const clsCollection::Node node = m_writer.AddNode(record);
-    Log(L"Index=", node->Index);
+    const Command command = m_state.commands.Add(record);
+    Log(L"Index=", command.Index());
     std::int32_t parentIndex = 0;
     if (!m_globals.tools.File_ReadItemHeader(file, parentIndex, *record))
       return Refuse(L"File is corrupt!", MessageBoxes::Icon::Stop);
     Log(L"lParentIndex=", parentIndex);
-    if (parentIndex < 0 || parentIndex > node->Index) {
+    if (parentIndex < 0 || parentIndex > command.Index()) {
       Log(L"Parent not found: ", parentIndex);
       return false;
     }
     m_globals.tools.ReadData(file, *record);
-    if (!AddItem(node, ParentMenu(parentIndex))) return true;
+    if (!AddItem(command, ParentMenu(parentIndex))) return true;
   }
   AddPlaceholders();
   return true;
@@ -90,9 +89,8 @@ bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
 /// dynamic folder holds is the disk's affair.
 MenuHandle DefinitionMenu::ParentMenu(std::int32_t parentIndex) const {
   if (parentIndex == 0) return m_state.m_hRootMenu;
-  const auto parent = m_state.m_colMenuItems.Item(parentIndex);
-  const auto& record = static_cast<const clsOrvaneData&>(*parent->m_oData);
-  return record.IsTypeDynamicFolder() ? MenuHandle::None : ToHandle<MenuHandle>(parent->m_lData);
+  const Command parent = m_state.commands.At(parentIndex);
+  return parent.Record()->IsTypeDynamicFolder() ? MenuHandle::None : parent.Submenu();
 }
 
 bool DefinitionMenu::IsShown(const clsOrvaneData& record) const {
@@ -104,14 +102,14 @@ bool DefinitionMenu::IsShown(const clsOrvaneData& record) const {
 }
 
 /// False when the shell's identifiers are used up.
-bool DefinitionMenu::AddItem(const clsCollection::Node& node, MenuHandle menu) {
-  const auto& record = static_cast<const clsOrvaneData&>(*node->m_oData);
+bool DefinitionMenu::AddItem(Command command, MenuHandle menu) {
+  const clsOrvaneData& record = *command.Record();
   Log(L"m_lType=", record.m_lType, L"  hCurrentMenu=", Hex(menu));
   const MenuWriter::Target target{menu};
   if (record.IsTypeRoot()) {
     m_globals.g_szRootMenuCaption = m_writer.Caption(record);
     Log(L"Root Caption=", m_globals.g_szRootMenuCaption);
-    node->m_lData = ToNumber(m_state.m_hRootMenu);
+    command.Submenu(m_state.m_hRootMenu);
     return true;
   }
   if (record.IsTypeSeparator()) {
@@ -123,10 +121,10 @@ bool DefinitionMenu::AddItem(const clsCollection::Node& node, MenuHandle menu) {
   if (!kind || !IsShown(record)) return true;
   if (!m_writer.CanInsert()) return false;
 
-  MenuWriter::Item item;
-  item.node = node;
+  MenuItem item;
+  item.command = command;
   item.caption = m_writer.Caption(record);
-  item.bitmapKey = kind->bitmapKey;
+  item.picture = kind->picture;
   if (record.IsTypeFolder()) m_writer.DressFolder(record, item);
   if (kind->popup) m_writer.AddSubmenu(item);
   if (record.IsTypePopupMenu())
@@ -146,9 +144,8 @@ void DefinitionMenu::AddPlaceholders() {
   auto record = std::make_shared<clsOrvaneData>();
   record->m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
   m_state.m_lEmptyCmdId = m_state.ids.Take();
-  m_writer.AddNode(std::move(record))->m_lKey = m_state.m_lEmptyCmdId;
-  for (const auto& dynamic : m_state.m_colDynamicMenus)
-    m_writer.AppendPlaceholder(ToHandle<MenuHandle>(dynamic->m_lKey));
+  m_state.commands.Add(std::move(record)).Id(m_state.m_lEmptyCmdId);
+  m_state.dynamicMenus.ForEach([&](MenuHandle submenu) { m_writer.AppendPlaceholder(submenu); });
 }
 
 bool DefinitionMenu::Refuse(const wchar_t* message, MessageBoxes::Icon icon) const {

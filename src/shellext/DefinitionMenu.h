@@ -26,7 +26,7 @@ class DefinitionMenu {
   bool ReadFile(DefinitionFile& file);
   MenuHandle ParentMenu(std::int32_t parentIndex) const;
   bool IsShown(const clsOrvaneData& record) const;
-  bool AddItem(const clsCollection::Node& node, MenuHandle menu);
+  bool AddItem(Command command, MenuHandle menu);
   void AddPlaceholders();
   bool Refuse(const wchar_t* message, MessageBoxes::Icon icon) const;
 

@@ -25,44 +25,47 @@ constexpr std::int32_t MaxSubmenus = 4000;
 void DynamicFolders::Open(MenuHandle submenu) {
   m_state.ids.ResumeDynamic();
   Log(L"WM_INITMENUPOPUP - m_lMenuCmdId=", m_state.ids.Next());
-  const auto node = m_state.m_colDynamicMenus.ItemViaKey(ToNumber(submenu));
-  if (!node) return;
-  if (node->m_lData == 0) {
-    CreateDynamicMenu(*node);
-    node->m_lData = 1;
+  DynamicMenus::Entry entry = m_state.dynamicMenus.Find(submenu);
+  if (!entry) return;
+  if (!entry.IsFilled()) {
+    CreateDynamicMenu(entry);
+    entry.SetFilled();
   }
   m_state.ids.SuspendDynamic();
 }
 
-void DynamicFolders::CreateDynamicMenu(const clsCollection& node) {
+void DynamicFolders::CreateDynamicMenu(const DynamicMenus::Entry& entry) {
   TraceScope scope(L"CreateDynamicMenu");
   try {
-    Menus& menus = m_globals.platform.menus;
-    const auto menu = ToHandle<MenuHandle>(node.m_lKey);
-    const auto& item = static_cast<const clsCollection&>(*node.m_oData);
-    clsCollection sorted;
-    const auto& folder = static_cast<const clsOrvaneData&>(*item.m_oData);
-    Log(L"hMenu=", Hex(menu), L"  szDir=", folder.Location());
-    List(folder, sorted);
-
-    Log(L"Sorting ", sorted.Count());
-    const std::vector<std::int32_t> order = sorted.Sort_Bubble(L"m_szKey");
-    for (std::size_t i = 1; i < order.size(); ++i)
-      AddEntry(std::static_pointer_cast<clsCollection>(sorted.Item(order[i])->m_oData), menu);
-
-    const std::int32_t count = menus.Count(menu);
-    if (count > 1) {
-      Log(L"MenuCount=", count);
-      menus.Remove(menu, 0);
-      Log(L"Killed empty entry");
-    }
+    Fill(entry);
   } catch (...) {
     scope.Caught();
   }
 }
 
+void DynamicFolders::Fill(const DynamicMenus::Entry& entry) {
+  Menus& menus = m_globals.platform.menus;
+  const MenuHandle menu = entry.Submenu();
+  const auto folder = entry.Folder().Record();
+  Log(L"hMenu=", Hex(menu), L"  szDir=", folder->Location());
+  Listed listed;
+  List(*folder, listed);
+
+  Log(L"Sorting ", listed.keys.Count());
+  const std::vector<std::int32_t> order = listed.keys.Sort_Bubble(L"m_szKey");
+  for (std::size_t i = 1; i < order.size(); ++i)
+    AddEntry(listed.commands[static_cast<std::size_t>(order[i]) - 1], menu);
+
+  const std::int32_t count = menus.Count(menu);
+  if (count > 1) {
+    Log(L"MenuCount=", count);
+    menus.Remove(menu, 0);
+    Log(L"Killed empty entry");
+  }
+}
+
 /// Records for the kept entries, each with its identifier, and their sort keys.
-void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
+void DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
   std::wstring path = folder.Location();
   if (!path.ends_with(L'\\')) path += L'\\';
   const auto listing = m_globals.platform.files.List(path, NetworkPatience);
@@ -70,7 +73,7 @@ void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
 
   const FileFilter filter(folder.m_szDFolder_Filter);
   const std::int32_t maximum = m_globals.g_Options.m_lShellMaxMenuText;
-  std::int32_t submenus = m_state.m_colDynamicMenus.Count();
+  std::int32_t submenus = m_state.dynamicMenus.Count();
   for (FoundFile found; listing->Next(found);) {
     const bool isFolder = (found.attributes & FileAttribute::Directory) != 0;
     std::wstring key = LowerCase(found.name);
@@ -91,28 +94,29 @@ void DynamicFolders::List(const clsOrvaneData& folder, clsCollection& sorted) {
     record->m_szDFolder_Filter = folder.m_szDFolder_Filter;
     // Below every printable character, so that folders come after the files.
     if (isFolder) key.insert(key.begin(), L'\t');
-    auto node = m_writer.AddNode(std::move(record));
-    node->m_lKey = m_state.ids.Take();
-    sorted.Add(key, 0, std::move(node));
+    Command command = m_state.commands.Add(std::move(record));
+    command.Id(m_state.ids.Take());
+    command.IsFileName(true);
+    listed.commands.push_back(std::move(command));
+    listed.keys.Add(key);
   }
 }
 
-void DynamicFolders::AddEntry(const clsCollection::Node& node, MenuHandle menu) {
-  const auto& record = static_cast<const clsOrvaneData&>(*node->m_oData);
-  MenuWriter::Item item;
-  item.node = node;
+void DynamicFolders::AddEntry(const Command& command, MenuHandle menu) {
+  const clsOrvaneData& record = *command.Record();
+  MenuItem item;
+  item.command = command;
   item.caption = record.Caption();
-  item.bitmapKey = MenuWriter::OwnIcon;
-  item.fileName = true;
+  item.picture = Picture::OwnIcon;
   if (!record.IsTypeDynamicFolder()) {
     m_writer.Insert({menu}, std::move(item));
     return;
   }
   m_writer.AddSubmenu(item);
-  Log(L"Adding dfolder: ", std::int32_t{node->m_lKey}, L" - ", record.Caption());
+  Log(L"Adding dfolder: ", command.Id(), L" - ", record.Caption());
   Log(L"              : ", record.Location());
   if (m_writer.InsertDynamicFolder({menu}, std::move(item)))
-    m_writer.AppendPlaceholder(ToHandle<MenuHandle>(node->m_lData));
+    m_writer.AppendPlaceholder(command.Submenu());
 }
 
 }  // namespace orvane

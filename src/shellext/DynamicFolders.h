@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "shellext/MenuWriter.h"
 
 namespace orvane {
@@ -15,9 +17,16 @@ class DynamicFolders {
   void Open(MenuHandle submenu);
 
  private:
-  void CreateDynamicMenu(const clsCollection& node);
-  void List(const clsOrvaneData& folder, clsCollection& sorted);
-  void AddEntry(const clsCollection::Node& node, MenuHandle menu);
+  /// What was listed, in the order in which it was found, and the keys to sort it by.
+  struct Listed {
+    std::vector<Command> commands;
+    clsCollection keys;
+  };
+
+  void CreateDynamicMenu(const DynamicMenus::Entry& entry);
+  void Fill(const DynamicMenus::Entry& entry);
+  void List(const clsOrvaneData& folder, Listed& listed);
+  void AddEntry(const Command& command, MenuHandle menu);
 
   ModuleGlobals& m_globals;
   HandlerState& m_state;

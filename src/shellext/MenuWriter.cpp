@@ -13,53 +13,35 @@ bool MenuWriter::CanInsert() const {
   return false;
 }
 
-clsCollection::Node MenuWriter::AddNode(std::shared_ptr<clsOrvaneData> record) {
-  return m_state.m_colMenuItems.Add({}, HandlerState::NoKey, std::move(record));
-}
-
-bool MenuWriter::Insert(const Target& target, Item item) {
-  clsCollection& node = *item.node;
-  if (node.m_lKey == HandlerState::NoKey) node.m_lKey = m_state.ids.Take();
-
-  NewMenuItem entry;
-  entry.menu = target.menu;
-  entry.position = NextPosition(target);
-  entry.caption = std::move(item.caption);
-  entry.id = node.m_lKey;
-  entry.bitmapKey = item.bitmapKey;
-  entry.iconFile = std::move(item.iconFile);
-  entry.trimCaption = item.trimCaption;
-  entry.fileName = item.fileName;
-  entry.submenu = item.submenu.get();
-  entry.record = static_cast<clsOrvaneData*>(node.m_oData.get());
-  if (!m_drawing.AddMenuWithBitmap(std::move(entry))) return false;
-  node.m_lData = ToNumber(item.submenu.release());
+bool MenuWriter::Insert(const Target& target, MenuItem item) {
+  if (item.command.Id() == Command::NoId) item.command.Id(m_state.ids.Take());
+  if (!m_drawing.AddMenuWithBitmap(target.menu, NextPosition(target), std::move(item)))
+    return false;
   if (target.position) ++*target.position;
   return true;
 }
 
-bool MenuWriter::InsertBuiltIn(const Target& target, std::int32_t type, std::int32_t bitmapKey,
+bool MenuWriter::InsertBuiltIn(const Target& target, std::int32_t type, Picture picture,
                                UniqueMenu submenu) {
   auto record = std::make_shared<clsOrvaneData>();
   record->m_lType = type;
-  Item item;
+  MenuItem item;
   item.caption = Caption(*record);
-  item.bitmapKey = bitmapKey;
+  item.picture = picture;
   item.submenu = std::move(submenu);
-  item.node = AddNode(std::move(record));
+  item.command = m_state.commands.Add(std::move(record));
   return Insert(target, std::move(item));
 }
 
-void MenuWriter::AddSubmenu(Item& item) {
+void MenuWriter::AddSubmenu(MenuItem& item) {
   item.submenu = CreatePopup();
   Log(L"NewMenu=", Hex(item.submenu.get()));
 }
 
-bool MenuWriter::InsertDynamicFolder(const Target& target, Item item) {
-  const clsCollection::Node node = item.node;
-  const MenuHandle submenu = item.submenu.get();
+bool MenuWriter::InsertDynamicFolder(const Target& target, MenuItem item) {
+  const Command folder = item.command;
   if (!Insert(target, std::move(item))) return false;
-  m_state.m_colDynamicMenus.Add({}, ToNumber(submenu), node);
+  m_state.dynamicMenus.Add(folder.Submenu(), folder);
   return true;
 }
 
@@ -93,16 +75,16 @@ UniqueMenu MenuWriter::CreatePopup() {
   return popup;
 }
 
-void MenuWriter::DressFolder(const clsOrvaneData& record, Item& item) {
+void MenuWriter::DressFolder(const clsOrvaneData& record, MenuItem& item) {
   if (IsCurrentFolder(record))
-    item.bitmapKey = CurrentFolderBitmap;
+    item.picture = Picture::CurrentFolder;
   else if (m_globals.g_Options.m_bShellUseOwnFolderBitmap)
-    item.bitmapKey = OwnFolderBitmap;
+    item.picture = Picture::OwnFolder;
   else
-    item.bitmapKey = OwnIcon;
+    item.picture = Picture::OwnIcon;
 
   // A special folder's location is a number, which has no icon; the folder itself has one.
-  if (item.bitmapKey == OwnIcon && record.OptionsIsCSIDL()) {
+  if (item.picture == Picture::OwnIcon && record.OptionsIsCSIDL()) {
     Shell& shell = m_globals.platform.shell;
     item.iconFile =
         PidlToPath(shell, shell.SpecialFolder(WindowHandle::None, record.FolderCSIDL()));

@@ -2,54 +2,50 @@
 
 #include <cstdint>
 
-#include "graphics/MenuItemMessages.h"
+#include "support/Trace.h"
 #include "win32/NativeHandles.h"
 
 namespace orvane::windowing {
 namespace {
 
-std::intptr_t Address(const void* record) {
-  return reinterpret_cast<std::intptr_t>(record);
+void LogMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  Log(L"uMsg=", Hex(static_cast<std::int32_t>(message)), L"  wParam=",
+      Hex(static_cast<std::int32_t>(wParam)), L"  lParam=", Hex(static_cast<std::int32_t>(lParam)));
 }
 
-void Measure(ContextMenuHandler& handler, WPARAM wParam, MEASUREITEMSTRUCT* native,
-             std::intptr_t* result) {
-  MeasureItem item{.id = static_cast<std::int32_t>(native->itemID),
-                   .width = static_cast<std::int32_t>(native->itemWidth),
-                   .height = static_cast<std::int32_t>(native->itemHeight)};
-  handler.IContextMenu3_HandleMenuMsg2(WM_MEASUREITEM, static_cast<std::intptr_t>(wParam),
-                                       Address(&item), result);
-  native->itemWidth = static_cast<UINT>(item.width);
-  native->itemHeight = static_cast<UINT>(item.height);
+void Measure(OpenMenu& menu, MEASUREITEMSTRUCT* item) {
+  if (!item || item->CtlType != ODT_MENU) return;
+  const auto size = menu.Measure(static_cast<std::int32_t>(item->itemID));
+  if (!size) return;
+  item->itemWidth = static_cast<UINT>(size->width);
+  item->itemHeight = static_cast<UINT>(size->height);
 }
 
-void Draw(ContextMenuHandler& handler, WPARAM wParam, const DRAWITEMSTRUCT& native,
-          std::intptr_t* result) {
-  const RECT& rect = native.rcItem;
-  const DrawItem item{.id = static_cast<std::int32_t>(native.itemID),
-                      .state = native.itemState,
-                      .context = win32::FromNative<DeviceContext>(native.hDC),
-                      .rect = {rect.left, rect.top, rect.right, rect.bottom}};
-  handler.IContextMenu3_HandleMenuMsg2(WM_DRAWITEM, static_cast<std::intptr_t>(wParam),
-                                       Address(&item), result);
+void Draw(OpenMenu& menu, const DRAWITEMSTRUCT* item) {
+  if (!item || item->CtlType != ODT_MENU) return;
+  const RECT& rect = item->rcItem;
+  menu.Draw({.id = static_cast<std::int32_t>(item->itemID),
+             .state = item->itemState,
+             .context = win32::FromNative<DeviceContext>(item->hDC),
+             .rect = {rect.left, rect.top, rect.right, rect.bottom}});
 }
 
 }  // namespace
 
-void ForwardMenuMessage(ContextMenuHandler& handler, UINT message, WPARAM wParam, LPARAM lParam,
-                        LRESULT* result) {
-  std::intptr_t answer = 0;
-  if (message == WM_MEASUREITEM) {
-    auto* native = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
-    if (native && native->CtlType == ODT_MENU) Measure(handler, wParam, native, &answer);
-  } else if (message == WM_DRAWITEM) {
-    const auto* native = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-    if (native && native->CtlType == ODT_MENU) Draw(handler, wParam, *native, &answer);
-  } else {
-    handler.IContextMenu3_HandleMenuMsg2(message, static_cast<std::intptr_t>(wParam), lParam,
-                                         &answer);
-  }
-  if (result) *result = answer;
+void HandleMenuMsg(UINT message, WPARAM wParam, LPARAM lParam) {
+  TraceScope scope(L"IContextMenu2_HandleMenuMsg");
+  LogMessage(message, wParam, lParam);
+}
+
+void HandleMenuMsg2(OpenMenu& menu, UINT message, WPARAM wParam, LPARAM lParam) {
+  TraceScope scope(L"IContextMenu3_HandleMenuMsg2");
+  LogMessage(message, wParam, lParam);
+  if (message == WM_MEASUREITEM)
+    Measure(menu, reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+  else if (message == WM_DRAWITEM && wParam == 0)
+    Draw(menu, reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+  else if (message == WM_INITMENUPOPUP)
+    menu.Open(ToHandle<MenuHandle>(static_cast<std::int32_t>(wParam)));
 }
 
 }  // namespace orvane::windowing

@@ -50,7 +50,6 @@ TEST_F(Dispatch, EntriesAreFoundByOffsetAndByVerb) {
   Add(Data::TypeSeparator);
   Add(Data::TypeFile, L"C:\\one.txt");
   Add(Data::TypeFile, L"C:\\two.txt");
-  items.Add(L"", First + items.Count());  // without a record
   const Lines two = {"ShellExecuteEx file=C:\\two.txt show=5"};
   struct {
     const wchar_t* verb;

@@ -75,7 +75,7 @@ class Scene {
     auto record = std::make_shared<Data>();
     record->m_lType = type;
     record->Location(location);
-    items.Add(L"", First + items.Count(), record);
+    items.Add(record).Id(First + items.Count() - 1);
     return record;
   }
 
@@ -134,7 +134,7 @@ class Scene {
                          process,        desktop.keyboard, desktop.clock,
                          desktop.locale, desktop.boxes,    codePage};
 
-  clsCollection items;
+  CommandTable items;
   std::shared_ptr<memory::DataObject> selection;
   std::wstring selectedItem;
   std::wstring folder;

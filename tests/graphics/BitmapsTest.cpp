@@ -3,6 +3,7 @@
 #include "common/AnyGdi.h"
 #include "graphics/ColConst.h"
 #include "graphics/MenuBitmaps.h"
+#include "memory/Desktop.h"
 
 namespace orvane::test {
 namespace {
@@ -39,7 +40,7 @@ TEST_P(BitmapsTest, ScaledBitmapHasTheDisplaysCellAndTheSourcesDepth) {
   for (const DeviceContext like : {context.get(), picture.Context()}) {
     const UniqueBitmap source(m_gdi, m_gdi.CreateCompatible(like, {16, 16}));
     const auto before = m_gdi.Describe(source.get()).value();
-    const UniqueBitmap scaled(m_gdi, ScaleBMP(m_gdi, source.get(), false));
+    const UniqueBitmap scaled = ScaleBMP(m_gdi, source.get());
     const auto shape = m_gdi.Describe(scaled.get());
     ASSERT_TRUE(shape);
     EXPECT_EQ(shape->width, cell.width);
@@ -47,7 +48,7 @@ TEST_P(BitmapsTest, ScaledBitmapHasTheDisplaysCellAndTheSourcesDepth) {
     EXPECT_EQ(shape->bitsPerPixel, before.bitsPerPixel);
     EXPECT_EQ(shape->bytesPerRow, (before.bitsPerPixel * cell.width + 15) / 16 * 2);
   }
-  EXPECT_EQ(ScaleBMP(m_gdi, BitmapHandle::None, true), BitmapHandle::None);
+  EXPECT_FALSE(ScaleBMP(m_gdi, BitmapHandle::None));
 }
 
 TEST_P(BitmapsTest, ScaledBitmapShowsTheWholePicture) {
@@ -61,7 +62,7 @@ TEST_P(BitmapsTest, ScaledBitmapShowsTheWholePicture) {
     const Selected selected(m_gdi, context.get(), picture.get());
     m_gdi.Copy(context.get(), {}, {16, 16}, canvas.Context(), {}, RasterOperation::Copy);
   }
-  const UniqueBitmap scaled(m_gdi, ScaleBMP(m_gdi, picture.release(), true));
+  const UniqueBitmap scaled = ScaleBMP(m_gdi, picture.get());
   ASSERT_TRUE(scaled);
   const Size cell = m_gdi.DisplayFontCell().value();
   Canvas view(m_gdi, cell);
@@ -77,8 +78,8 @@ TEST_P(BitmapsTest, IconStandsOnASquareOfTheNextColour) {
     std::int32_t size, flags, drawn;
   } rows[] = {{16, 0, 16}, {16, SmallerIcon, 14}, {32, SmallerIcon, 28}};
   for (const auto& row : rows) {
-    const UniqueBitmap bitmap(m_gdi, IconToBitmap(m_gdi, surface.Context(), AnyIcon(),
-                                                  ColConst::Menu, row.size, row.flags));
+    const UniqueBitmap bitmap =
+        IconToBitmap(m_gdi, surface.Context(), AnyIcon(), ColConst::Menu, row.size, row.flags);
     ASSERT_TRUE(bitmap);
     Canvas view(m_gdi, {row.size, row.size});
     Show(bitmap.get(), view);
@@ -90,24 +91,19 @@ TEST_P(BitmapsTest, IconStandsOnASquareOfTheNextColour) {
     }
     EXPECT_NE(view.Pixel(row.drawn / 2, row.drawn / 2), ground) << "the icon";
   }
-  EXPECT_EQ(IconToBitmap(m_gdi, surface.Context(), IconHandle::None, 4, 16, 0), BitmapHandle::None);
+  EXPECT_FALSE(IconToBitmap(m_gdi, surface.Context(), IconHandle::None, 4, 16, 0));
 }
 
-TEST_P(BitmapsTest, MenuBitmapsByTheirKeys) {
-  Memory().resources.erase(104);
-  clsCollection bitmaps;
-  LoadMenuBitmaps(m_gdi, bitmaps);
-  std::wstring keys;
-  for (const auto& node : bitmaps) {
-    keys += std::to_wstring(node->m_lKey);
-    EXPECT_TRUE(m_gdi.Describe(ToHandle<BitmapHandle>(node->m_lData)));
-    const auto shape = m_gdi.Describe(ToHandle<BitmapHandle>(node->m_lData2));
-    ASSERT_TRUE(shape);
+TEST_P(BitmapsTest, EveryBitmapOfTheModule) {
+  memory::Desktop desktop;
+  PictureStore pictures(m_gdi, desktop.icons, desktop.files);
+  for (std::int32_t key = 1; key <= 9; ++key) {
+    PictureStore::Node node = pictures.Find(static_cast<Picture>(key));
+    EXPECT_TRUE(m_gdi.Describe(PictureStore::CheckMark(node))) << key;
+    const auto shape = m_gdi.Describe(pictures.Full(node, 16));
+    ASSERT_TRUE(shape) << key;
     EXPECT_EQ(shape->width, 16);
   }
-  EXPECT_EQ(keys, IsReal() ? L"213456789" : L"21356789") << "a missing resource has no node";
-  DeleteMenuBitmaps(m_gdi, bitmaps);
-  EXPECT_EQ(bitmaps.Count(), 0);
 }
 
 }  // namespace

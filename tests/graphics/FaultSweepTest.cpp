@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "graphics/MenuDesk.h"
 #include "graphics/clsPaintEffects.h"
 
@@ -12,7 +14,7 @@ void DrawEverything(MenuDesk& desk) {
     desk.options.m_bShellOwnerDraw = ownerDraw;
     desk.AddFile(1, L"C:\\a.txt");
     desk.AddFile(2, L"C:\\b.exe");
-    desk.Add(desk.menu, 3, L"&Task", 8, {}, Data::TypeSelectionTask);
+    desk.Add(desk.menu, 3, L"&Task", Picture::Task, {}, Data::TypeSelectionTask);
   }
   Gdi& gdi = desk.gdi;
   const UniqueScreen screen(gdi, gdi.OpenScreen());
@@ -21,7 +23,7 @@ void DrawEverything(MenuDesk& desk) {
   const Selected selected(gdi, context.get(), bitmap.get());
   for (const std::int32_t dpi : {96, 192}) {
     desk.OpenAt(dpi);
-    for (std::int32_t id : {1, 2, 3, 4}) {
+    for (std::int32_t id : {1, 2, 3}) {
       desk.Measure(id);
       desk.Draw(id, 0, context.get(), {0, 0, 100, 20});
       desk.Draw(id, DrawItem::Selected, context.get(), {0, 0, 100, 20});
@@ -47,10 +49,11 @@ TEST(GraphicsFaultSweep, NothingIsLeftBehindWhicheverCallFails) {
     EXPECT_FALSE(desktop.icons.wronglyFreed);
     EXPECT_EQ(desktop.gdi.Mistakes(), std::vector<std::string>());
     // What is left belongs to the store and the menu font.
-    std::size_t owned = 1;
-    for (const auto& node : desk.bitmaps) owned += (node->m_lData != 0) + (node->m_lData2 != 0);
-    EXPECT_LE(desktop.gdi.Live(), owned);
-    DeleteMenuBitmaps(desktop.gdi, desk.bitmaps);
+    const auto pictures = static_cast<std::size_t>(desk.pictures.Count());
+    EXPECT_LE(desktop.gdi.Live(), 2 * pictures + 1);
+    desk.commands.Clear();
+    std::destroy_at(&desk.pictures);
+    std::construct_at(&desk.pictures, desk.gdi, desktop.icons, desktop.files);
     EXPECT_LE(desktop.gdi.Live(), 1u);
   }
   EXPECT_GT(calls, 200u);

@@ -7,15 +7,15 @@ namespace {
 
 constexpr Colour Paper = Rgb(1, 2, 3);
 constexpr Rect Area{0, 10, 150, 30};
-constexpr std::int32_t Action = 7;  // a bitmap key
 constexpr std::int32_t WithPicture = 1;
 constexpr std::int32_t Plain = 2;
-constexpr std::int32_t Unknown = 99;
+constexpr std::int32_t Nameless = 3;
 
 void AddEntries(MenuDesk& desk) {
   desk.Load();
-  desk.Add(desk.menu, WithPicture, L"&Run  ", Action, {}, Data::TypeCustomAction);
-  desk.Add(desk.menu, Plain, L"C&&A", 0, {}, Data::TypePopupMenu);
+  desk.Add(desk.menu, WithPicture, L"&Run  ", Picture::Action, {}, Data::TypeCustomAction);
+  desk.Add(desk.menu, Plain, L"C&&A", Picture::None, {}, Data::TypePopupMenu);
+  desk.Add(desk.menu, Nameless, L"", Picture::None);
 }
 
 using EntryPainting = AnyGdi;
@@ -57,7 +57,7 @@ class MenuPainting : public testing::Test {
 
   void Paint(std::int32_t id, std::uint32_t state = 0, const Rect& area = Area) {
     m_canvas.Clear(Paper);
-    EXPECT_TRUE(m_desk.Draw(id, state, m_canvas.Context(), area));
+    m_desk.Draw(id, state, m_canvas.Context(), area);
   }
   /// A colour in which the text alone can be drawn.
   Colour TellTextBy(std::int32_t index) {
@@ -77,8 +77,8 @@ TEST_F(MenuPainting, SizesGrowWithTheScreen) {
   } rows[] = {{96, 20, 25}, {144, 30, 38}, {192, 40, 50}, {72, 20, 25}, {0, 20, 25}};
   for (const auto& row : rows) {
     m_desk.OpenAt(row.dpi);
-    EXPECT_EQ(m_desk.Measure(Unknown).height, row.height);
-    EXPECT_EQ(m_desk.Measure(Unknown).width, row.margin);
+    EXPECT_EQ(m_desk.Measure(Nameless).height, row.height);
+    EXPECT_EQ(m_desk.Measure(Nameless).width, row.margin);
   }
   m_desk.OpenAt(192);
   EXPECT_EQ(m_desk.Measure(Plain).width, 2 * 16 + 50) << "the font grows too";
@@ -144,18 +144,10 @@ TEST_F(MenuPainting, ScreenKeepsItsObjects) {
   EXPECT_EQ(m_gdi.Mistakes(), std::vector<std::string>());
 }
 
-TEST_F(MenuPainting, WhatIsNotOurs) {
-  MeasureItem item{.id = Plain};
-  const auto address = reinterpret_cast<std::intptr_t>(&item);
-  EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::MeasureItem, 0, 0));
-  EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::DrawItem, 0, 0));
-  EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::DrawItem, 5, address));
-  EXPECT_FALSE(m_desk.drawing.HandleMessage(MenuMessage::InitMenuPopup, 0, address));
-  EXPECT_EQ(item.height, 0);
-
-  Paint(Unknown);
+TEST_F(MenuPainting, SpoiltRequests) {
+  Paint(Nameless);
   EXPECT_EQ(m_canvas.BoundsOf(m_gdi.SystemColour(ColConst::Menu)), Area);
-  EXPECT_TRUE(m_desk.Draw(WithPicture, DrawItem::Selected, DeviceContext::None, Area));
+  m_desk.Draw(WithPicture, DrawItem::Selected, DeviceContext::None, Area);
   Paint(WithPicture, DrawItem::Selected, {INT32_MIN, -INT32_MAX, INT32_MAX, INT32_MAX});
   Paint(WithPicture, DrawItem::Selected, {INT32_MAX, INT32_MAX, -INT32_MAX, -INT32_MAX});
 }

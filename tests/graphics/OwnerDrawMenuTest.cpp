@@ -3,94 +3,89 @@
 namespace orvane::test {
 namespace {
 
-constexpr std::int32_t OwnIcon = OwnerDrawMenu::OwnIcon;
-constexpr std::int32_t Designer = OwnerDrawMenu::DesignerIcon;
-
 class OwnerDrawMenuTest : public testing::Test {
  protected:
   OwnerDrawMenuTest() { m_desk.Load(); }
 
-  BitmapHandle Stored(std::int32_t key, bool scaled) {
-    const auto node = m_desk.bitmaps.ItemViaKey(key);
-    return ToHandle<BitmapHandle>(scaled ? node->m_lData : node->m_lData2);
-  }
-
   MenuDesk m_desk;
 };
 
-TEST_F(OwnerDrawMenuTest, WhichKeysShowAtWhichLevel) {
+TEST_F(OwnerDrawMenuTest, WhichPicturesShowAtWhichLevel) {
+  constexpr int Never = 9;
   const struct {
-    std::int32_t key;
-    int fromLevel;  // 9 is never
-    std::int32_t shown;
-  } rows[] = {{1, 1, 1}, {9, 1, 9}, {2, 1, 2}, {3, 2, 3},  {4, 2, 4},        {5, 2, 5}, {7, 2, 7},
-              {8, 2, 8}, {6, 9, 0}, {0, 9, 0}, {10, 9, 0}, {Designer, 2, 1}, {-1, 9, 0}};
-  m_desk.options.m_bShellOwnerDraw = false;
-  std::size_t position = 0;
+    std::int32_t picture;
+    int fromLevel;
+    Picture shown;
+  } rows[] = {{1, 1, Picture::Mark},     {2, 1, Picture::CurrentFolder}, {9, 1, Picture::Popup},
+              {3, 2, Picture::Reset},    {4, 2, Picture::OwnFolder},     {5, 2, Picture::Add},
+              {7, 2, Picture::Action},   {8, 2, Picture::Task},          {999998, 2, Picture::Mark},
+              {6, Never, Picture::None}, {0, Never, Picture::None},      {10, Never, Picture::None},
+              {-1, Never, Picture::None}};
+  std::int32_t id = 0;
   for (const auto& row : rows) {
     for (int level = 0; level <= 3; ++level) {
       m_desk.options.m_lShellShowIcons = level;
-      const auto id = static_cast<std::int32_t>(position + 1);
-      ASSERT_TRUE(m_desk.Add(m_desk.menu, id, L"entry", row.key));
-      const bool shown = level >= row.fromLevel;
-      const MenuEntry& entry = m_desk.Entry(position++);
-      EXPECT_EQ(entry.bitmap, shown ? Stored(row.shown, true) : BitmapHandle::None)
-          << "key " << row.key << " level " << level;
-      EXPECT_EQ(m_desk.PictureOf(id), shown ? Stored(row.shown, false) : BitmapHandle::None);
-      EXPECT_FALSE(entry.ownerDraw);
+      for (const MenuHandle menu : {m_desk.menu, m_desk.shellMenu}) {
+        ASSERT_TRUE(m_desk.Add(menu, ++id, L"entry", static_cast<Picture>(row.picture)));
+        const Picture shown = level >= row.fromLevel ? row.shown : Picture::None;
+        const MenuEntry& entry = m_desk.desktop.menus.Entries(menu).back();
+        // Only menus of our own are ours to draw.
+        EXPECT_EQ(entry.ownerDraw, menu == m_desk.menu);
+        EXPECT_EQ(entry.bitmap, entry.ownerDraw
+                                    ? m_desk.Loaded(shown)
+                                    : PictureStore::CheckMark(m_desk.pictures.Find(shown)))
+            << "picture " << row.picture << " level " << level;
+        EXPECT_EQ(m_desk.PictureOf(id), m_desk.Loaded(shown));
+      }
     }
   }
 }
 
-TEST_F(OwnerDrawMenuTest, OnlyOurOwnMenusAreOwnerDrawn) {
-  m_desk.Add(m_desk.menu, 1, L"ours", 7);
-  m_desk.Add(m_desk.shellMenu, 2, L"the shell's", 7);
-  EXPECT_TRUE(m_desk.Entry(0).ownerDraw);
-  EXPECT_EQ(m_desk.Entry(0).bitmap, Stored(7, false));
-  const MenuEntry& shells = m_desk.desktop.menus.Entries(m_desk.shellMenu).at(0);
-  EXPECT_FALSE(shells.ownerDraw);
-  EXPECT_EQ(shells.bitmap, Stored(7, true));
+TEST_F(OwnerDrawMenuTest, BitmapsAreLoadedWhenAskedForAndOnce) {
+  memory::Gdi& gdi = m_desk.desktop.gdi;
+  gdi.resources.erase(104);
+  const std::size_t before = gdi.Live();
+  m_desk.Add(m_desk.menu, 1, L"text", Picture::None);
+  EXPECT_EQ(gdi.Live(), before);
+  m_desk.Add(m_desk.menu, 2, L"task", Picture::Task);
+  m_desk.Add(m_desk.menu, 3, L"task", Picture::Task);
+  m_desk.Add(m_desk.menu, 4, L"without", Picture::OwnFolder);
+  EXPECT_EQ(gdi.Live(), before + 2) << "full and scaled";
+  EXPECT_EQ(m_desk.Entry(3).bitmap, BitmapHandle::None);
+  EXPECT_EQ(m_desk.pictures.Count(), 1);
 }
 
 TEST_F(OwnerDrawMenuTest, EntryAsItWasAsked) {
-  const MenuHandle submenu = m_desk.desktop.menus.CreatePopup();
+  Menus& menus = m_desk.desktop.menus;
   m_desk.options.m_lShellMaxMenuText = 6;
-  m_desk.Add(m_desk.menu, 1, L"last", 0);
-  EXPECT_FALSE(m_desk.Add(MenuHandle::None, 2, L"nowhere", 7));
-  m_desk.drawing.AddMenuWithBitmap({.menu = m_desk.menu,
-                                    .position = 0,
-                                    .caption = L"&1 a long caption",
-                                    .id = 77,
-                                    .trimCaption = true,
-                                    .submenu = submenu});
+  m_desk.Add(m_desk.menu, 1, L"last", Picture::None);
+  MenuItem refused = m_desk.Item(2, L"nowhere");
+  refused.submenu = UniqueMenu(menus, menus.CreatePopup());
+  const std::size_t live = m_desk.desktop.menus.LiveCount();
+  EXPECT_FALSE(m_desk.drawing.AddMenuWithBitmap(MenuHandle::None, 0, std::move(refused)));
+  EXPECT_EQ(m_desk.desktop.menus.LiveCount(), live - 1);
+
+  MenuItem item = m_desk.Item(77, L"&1 a long caption");
+  item.trimCaption = true;
+  item.submenu = UniqueMenu(menus, menus.CreatePopup());
+  m_desk.drawing.AddMenuWithBitmap(m_desk.menu, 0, std::move(item));
   const MenuEntry& entry = m_desk.Entry(0);
   EXPECT_EQ(entry.caption, L"&1 a long...");
   EXPECT_EQ(entry.id, 77u);
-  EXPECT_EQ(entry.submenu, submenu);
+  EXPECT_EQ(entry.submenu, m_desk.commands.Find(77).Submenu());
+  EXPECT_NE(entry.submenu, MenuHandle::None);
   EXPECT_EQ(m_desk.Entry(1).caption, L"last");
-}
-
-TEST_F(OwnerDrawMenuTest, MissingBitmapLeavesTheEntryWithoutPicture) {
-  DeleteMenuBitmaps(m_desk.desktop.gdi, m_desk.bitmaps);
-  for (std::int32_t key : {1, 7, Designer, OwnIcon})
-    EXPECT_TRUE(m_desk.Add(m_desk.menu, key, L"entry", key, L"C:\\nothing.txt"));
-  for (const MenuEntry& entry : m_desk.desktop.menus.Entries(m_desk.menu))
-    EXPECT_EQ(entry.bitmap, BitmapHandle::None);
-  EXPECT_EQ(m_desk.PictureOf(OwnIcon), BitmapHandle::None);
 }
 
 TEST_F(OwnerDrawMenuTest, FileNamesMarkNoLetter) {
   m_desk.options.m_lShellShowIcons = 0;
   m_desk.AddFile(1, L"C:\\R&D.txt");
-  m_desk.Add(m_desk.menu, 2, L"R&D.txt", 0);
+  m_desk.Add(m_desk.menu, 2, L"R&D.txt", Picture::None);
   EXPECT_EQ(m_desk.Entry(0).caption, L"R&&D.txt");
   EXPECT_EQ(m_desk.Entry(1).caption, L"R&D.txt");
-  EXPECT_EQ(m_desk.records[1].Caption(), L"R&D.txt");
+  EXPECT_EQ(m_desk.Caption(1), L"R&D.txt");
   EXPECT_EQ(m_desk.Measure(1).width, 7 * 8 + 25);
   EXPECT_EQ(m_desk.Measure(2).width, 6 * 8 + 25);
-
-  m_desk.drawing.ShellMenu(m_desk.shellMenu);  // a new menu, where the number is somebody else's
-  EXPECT_EQ(m_desk.Measure(1).width, 6 * 8 + 25);
 }
 
 TEST_F(OwnerDrawMenuTest, IconsAreFetchedWhenFirstLookedAtAndNothingIsAskedTwice) {
@@ -107,7 +102,7 @@ TEST_F(OwnerDrawMenuTest, IconsAreFetchedWhenFirstLookedAtAndNothingIsAskedTwice
   EXPECT_EQ(icons.kindFinds, 3u) << ".txt, .doc, none";
   EXPECT_EQ(icons.finds, 3u) << "each entry of a program";
   EXPECT_EQ(icons.takes, 5u) << "each distinct icon";
-  EXPECT_EQ(m_desk.bitmaps.Count(), 9 + 5);
+  EXPECT_EQ(m_desk.pictures.Count(), 5);
   EXPECT_EQ(m_desk.PictureOf(1), m_desk.PictureOf(2));
   EXPECT_NE(m_desk.PictureOf(4), m_desk.PictureOf(5));
   EXPECT_EQ(icons.Live(), 0u);
@@ -118,10 +113,10 @@ TEST_F(OwnerDrawMenuTest, CheckMarksAreFetchedAtOnce) {
   m_desk.options.m_bShellOwnerDraw = false;
   for (std::int32_t id = 1; id <= 500; ++id) m_desk.AddFile(id, L"C:\\a.txt");
   EXPECT_EQ(m_desk.desktop.icons.takes, 1u);
-  const auto node = m_desk.records[1].m_oBitmap;
-  ASSERT_TRUE(node);
-  EXPECT_NE(node->m_lData, node->m_lData2);
-  EXPECT_EQ(m_desk.Entry(499).bitmap, ToHandle<BitmapHandle>(node->m_lData));
+  const auto mark = PictureStore::CheckMark(m_desk.commands.Find(1).Record()->m_oBitmap);
+  EXPECT_NE(mark, BitmapHandle::None);
+  EXPECT_NE(mark, m_desk.PictureOf(1));
+  EXPECT_EQ(m_desk.Entry(499).bitmap, mark);
 }
 
 TEST_F(OwnerDrawMenuTest, WhoseIconIsWhose) {
@@ -153,12 +148,11 @@ TEST_F(OwnerDrawMenuTest, WhoseIconIsWhose) {
     desk.desktop.files.Stall(L"Z:\\", 30'000);
     desk.Load();
     const std::uint32_t start = desk.desktop.clock.Ticks();
-    desk.Add(desk.menu, 1, L"item", OwnIcon, row.path, row.type);
+    desk.Add(desk.menu, 1, L"item", Picture::OwnIcon, row.path, row.type);
     const BitmapHandle picture = desk.PictureOf(1);
     EXPECT_EQ(desk.desktop.icons.finds, row.finds) << row.what;
     EXPECT_EQ(desk.desktop.icons.kindFinds, row.kindFinds) << row.what;
-    const auto unknown = ToHandle<BitmapHandle>(desk.bitmaps.ItemViaKey(6)->m_lData2);
-    EXPECT_EQ(picture == unknown, row.unknown) << row.what;
+    EXPECT_EQ(picture == desk.Loaded(Picture::UnknownFile), row.unknown) << row.what;
     EXPECT_NE(picture, BitmapHandle::None);
     EXPECT_EQ(desk.desktop.clock.Ticks(), start) << row.what;
   }

@@ -59,9 +59,7 @@ TEST(DynamicFolders, StayEmptyWhenThereIsNothingToShow) {
     Folder click;
     scene(click.desktop.files);
     EXPECT_EQ(click.ClickAndOpen(), Empty);
-    std::intptr_t result = 7;  // a message for another menu
-    click.handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, 12345, 0, &result);
-    EXPECT_EQ(result, 0);
+    click.handler->Menu().Open(MenuHandle{12345});  // another's
   }
 }
 
@@ -97,9 +95,8 @@ TEST(DynamicFolders, ShowNamesAsTheyAre) {
     click.ClickAndOpen();
     const MenuEntry& entry = click.Entries(L"Work").at(0);
     EXPECT_EQ(entry.caption, name == L"R&D.txt" ? L"R&&D.txt" : name);
-    const auto node =
-        click.handler->State().m_colMenuItems.ItemViaKey(static_cast<std::int32_t>(entry.id));
-    const auto& record = static_cast<const Data&>(*node->m_oData);
+    const Data& record =
+        *click.handler->State().commands.Find(static_cast<std::int32_t>(entry.id)).Record();
     EXPECT_EQ(record.Caption(), name);
     EXPECT_EQ(record.Location(), L"C:\\Work\\" + name);
   }

@@ -93,10 +93,11 @@ TEST(Menu, MarksTheFolderItIsFor) {
   click.Add(Item(Data::TypeFolder, L"This one", L"C:\\Work"));
   click.Add(Item(Data::TypeFolder, L"That one", L"C:\\Else"));
   click.Click(L"C:\\Work");
-  const auto current = click.handler->State().m_colBitmaps.ItemViaKey(2);
-  ASSERT_TRUE(current);
-  EXPECT_EQ(ToNumber(click.Entries()[0].bitmap), current->m_lData);
-  EXPECT_NE(ToNumber(click.Entries()[1].bitmap), current->m_lData);
+  const auto current =
+      PictureStore::CheckMark(click.handler->State().commands.At(2).Record()->m_oBitmap);
+  EXPECT_NE(current, BitmapHandle::None);
+  EXPECT_EQ(click.Entries()[0].bitmap, current);
+  EXPECT_NE(click.Entries()[1].bitmap, current);
 }
 
 TEST(Menu, AnswersWithoutBuildingWhereItTakesNoPart) {
@@ -153,7 +154,7 @@ TEST(Menu, OffersTheSwitchOfTheDebugLogFirst) {
   const MenuEntry& entry = click.desktop.menus.Entries(click.shellMenu)[1];
   EXPECT_EQ(entry.caption, L"Enable debugging");
   EXPECT_EQ(entry.id, 1u);
-  EXPECT_FALSE(click.handler->State().m_colMenuItems.ItemViaKey(1));
+  EXPECT_FALSE(click.handler->State().commands.Find(1));
 }
 
 TEST(Menu, ASecondHandlerAddsNoSecondRootAndASecondQueryStartsOver) {

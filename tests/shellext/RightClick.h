@@ -110,8 +110,7 @@ class RightClick {
 
   std::wstring Open(const std::wstring& caption) {
     const MenuHandle submenu = Submenu(caption);
-    handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, ToNumber(submenu), 0,
-                                          nullptr);
+    handler->Menu().Open(submenu);
     return memory::MenuText(desktop.menus, submenu);
   }
 
@@ -177,7 +176,7 @@ class RightClick {
       if (entry.caption.ends_with(L"able debugging")) continue;
       EXPECT_GE(id, state.ids.First());
       EXPECT_LE(id, state.ids.Last());
-      EXPECT_TRUE(state.m_colMenuItems.ItemViaKey(id)) << id;
+      EXPECT_TRUE(state.commands.Find(id)) << id;
       EXPECT_TRUE(seen.insert(entry.id).second || id == state.m_lEmptyCmdId) << id;
     }
   }

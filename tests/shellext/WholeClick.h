@@ -70,7 +70,7 @@ class WholeClick : public RightClick {
   }
 
   void Visit(MenuHandle menu, int depth) {
-    handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, ToNumber(menu), 0, nullptr);
+    handler->Menu().Open(menu);
     if (depth == 8) return;
     const std::vector<MenuEntry> entries = desktop.menus.Entries(menu);
     for (const MenuEntry& entry : entries)

@@ -146,8 +146,7 @@ void PreviewSession::OpenSubmenu(const std::string& path) {
   const MenuHandle submenu = Find(path).submenu;
   if (submenu == MenuHandle::None)
     throw std::runtime_error("the entry \"" + path + "\" has no submenu");
-  m_handler->IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, ToNumber(submenu), 0,
-                                          nullptr);
+  m_handler->Menu().Open(submenu);
 }
 
 void PreviewSession::Invoke() {

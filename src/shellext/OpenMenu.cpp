@@ -1,0 +1,74 @@
+#include "shellext/OpenMenu.h"
+
+#include "support/Trace.h"
+
+namespace orvane {
+
+std::optional<Size> OpenMenu::Measure(std::int32_t id) noexcept {
+  TraceScope scope(L"OwnerDrawMenu");
+  try {
+    return m_painter.Measure(OwnerDrawMenu_GetCaption(id), IsFileName(id));
+  } catch (...) {
+    scope.Caught();
+    return {};
+  }
+}
+
+void OpenMenu::Draw(const DrawItem& item) noexcept {
+  TraceScope scope(L"OwnerDrawMenu");
+  try {
+    Log(L"DrawInfo.itemState=", Hex(static_cast<std::int32_t>(item.state)));
+    const BitmapHandle picture = OwnerDrawMenu_HasBitmap(item.id);
+    m_painter.Draw(item, OwnerDrawMenu_GetCaption(item.id), IsFileName(item.id), picture);
+  } catch (...) {
+    scope.Caught();
+  }
+}
+
+void OpenMenu::Open(MenuHandle submenu) noexcept {
+  try {
+    m_painter.MenuOpens();
+    m_folders.Open(submenu);
+  } catch (...) {
+    const PendingError error = CaughtError();
+    Log(L"Error: ", error.number, L" - ", error.description);
+  }
+}
+
+std::wstring OpenMenu::OwnerDrawMenu_GetCaption(std::int32_t lId) {
+  TraceScope scope(L"OwnerDrawMenu_GetCaption");
+  const Command command = Find(lId);
+  if (!command) return {};
+  Log(L"m_lType=", command.Record()->m_lType);
+  bool trim = false;
+  std::wstring caption = m_globals.tools.GetMenuCaption(*command.Record(), trim);
+  Log(L"Caption=", caption);
+  return caption;
+}
+
+BitmapHandle OpenMenu::OwnerDrawMenu_HasBitmap(std::int32_t lId) {
+  TraceScope scope(L"OwnerDrawMenu_HasBitmap");
+  const Command command = Find(lId);
+  if (!command) return BitmapHandle::None;
+  const BitmapHandle bitmap =
+      m_state.pictures.Full(command.Record()->m_oBitmap, m_painter.PictureSize());
+  if (bitmap == BitmapHandle::None)
+    Log(L"Bitmap not found!");
+  else
+    Log(L"Bitmap=", Hex(bitmap));
+  return bitmap;
+}
+
+Command OpenMenu::Find(std::int32_t lId) const {
+  Log(L"lID=", lId);
+  const Command command = m_state.commands.Find(lId);
+  if (!command) Log(L"Entry not found!");
+  return command;
+}
+
+bool OpenMenu::IsFileName(std::int32_t id) const {
+  const Command command = m_state.commands.Find(id);
+  return command && command.IsFileName();
+}
+
+}  // namespace orvane
