@@ -26,7 +26,8 @@ bool PreviewMenu::Message(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& r
     case WM_MEASUREITEM:
     case WM_DRAWITEM:
     case WM_MENUCHAR:
-      windowing::ForwardMenuMessage(m_open->Handler(), message, wParam, lParam, &result);
+      windowing::HandleMenuMsg2(m_open->Handler().Menu(), message, wParam, lParam);
+      result = 0;
       return true;
     default:
       return false;
