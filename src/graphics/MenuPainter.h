@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "graphics/MenuItemMessages.h"
+#include "graphics/DrawItem.h"
 #include "platform/Gdi.h"
 
 namespace orvane {

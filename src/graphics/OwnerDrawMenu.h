@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "graphics/MenuBitmaps.h"
 #include "graphics/MenuPainter.h"
+#include "graphics/PictureStore.h"
 #include "menudata/CommandTable.h"
 #include "menudata/clsOptions.h"
 #include "platform/Menus.h"

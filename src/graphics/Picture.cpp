@@ -1,4 +1,4 @@
-#include "graphics/MenuItemLookup.h"
+#include "graphics/Picture.h"
 
 namespace orvane {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "graphics/MenuBitmaps.h"
+#include "graphics/PictureStore.h"
 #include "menudata/CommandTable.h"
 #include "platform/Menus.h"
 #include "shellext/CommandIds.h"

@@ -2,7 +2,7 @@
 
 #include "common/AnyGdi.h"
 #include "graphics/ColConst.h"
-#include "graphics/MenuBitmaps.h"
+#include "graphics/PictureStore.h"
 #include "memory/Desktop.h"
 
 namespace orvane::test {

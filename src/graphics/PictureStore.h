@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "graphics/IconStore.h"
-#include "graphics/MenuItemLookup.h"
+#include "graphics/IconFinder.h"
+#include "graphics/Picture.h"
 #include "menudata/clsCollection.h"
 #include "platform/Gdi.h"
 #include "platform/ShellIcons.h"

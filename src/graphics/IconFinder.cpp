@@ -1,4 +1,4 @@
-#include "graphics/IconStore.h"
+#include "graphics/IconFinder.h"
 
 #include "support/Text.h"
 #include "support/Trace.h"

@@ -1,4 +1,4 @@
-#include "graphics/MenuBitmaps.h"
+#include "graphics/PictureStore.h"
 
 #include "graphics/Bitmaps.h"
 #include "graphics/ColConst.h"
