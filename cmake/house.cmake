@@ -68,6 +68,7 @@ function(orvane_headers name folder)
   target_include_directories(orvane_${name} SYSTEM INTERFACE ${view})
 endfunction()
 orvane_headers(json nlohmann)
+orvane_headers(cli CLI)
 
 # orvane_small(TARGET): in a Windows program this one is built for size rather than speed, since it runs
 # when an entry was chosen and not while a menu waits to appear.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 #include "platform/FileSystem.h"
@@ -36,13 +37,22 @@ std::wstring ToShortNamePart(std::wstring_view part, std::size_t maxLength) {
   return result;
 }
 
+/// The name of a host's file as Windows has it; none for bytes that are no name there.
+std::optional<std::wstring> HostName(const fs::path& path) {
+#ifdef _WIN32
+  return path.filename().native();
+#else
+  return FromUtf8(path.filename().native());
+#endif
+}
+
 /// A node for an entry of a host directory; null for what Windows has nothing like (a pipe, a
 /// device, a broken link: reading one could wait for ever).
 std::unique_ptr<FileNode> MakeHostNode(const fs::directory_entry& entry) {
   std::error_code error;
   const fs::file_status status = entry.status(error);
   if (error || (!fs::is_directory(status) && !fs::is_regular_file(status))) return nullptr;
-  const auto name = FromUtf8(entry.path().filename().string());
+  const auto name = HostName(entry.path());
   if (!name) return nullptr;
   std::uint32_t attributes =
       fs::is_directory(status) ? FileAttribute::Directory : FileAttribute::Archive;

@@ -1,61 +1,40 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <vector>
 
-#include "menudata/World.h"
-#include "platform/ScratchFolder.h"
+#include "RunTool.h"
 
 namespace orvane::tool {
 namespace {
 
 using Json = nlohmann::json;
-using Arguments = std::vector<std::string>;
 
 const std::string Data = ORVANE_TEST_DATA "/";
 
-struct Answer {
-  int status;
-  std::string output, errors;
-};
-
-/// Runs the companion itself, with a directory that plays drive C: and a registry without lists and
-/// built-in commands.
-class Preview : public testing::Test {
+/// With a directory that plays drive C: and a registry without lists and built-in commands.
+class Preview : public ToolTest {
  protected:
   Preview() {
     std::filesystem::create_directories(m_driveC / "Work/Old");
     for (const char* name : {"R&D.txt", "b.TXT", "A.doc", "c.exe"})
-      std::ofstream(m_driveC / "Work" / name) << name;
+      Put(m_driveC / "Work" / name, name);
     WriteRegistry("");
   }
 
   void WriteRegistry(const std::string& lines) {
-    std::ofstream(m_registry) << "Windows Registry Editor Version 5.00\n\n"
-                                 "[HKEY_CURRENT_USER\\Software\\Tarnwick\\Orvane]\n"
-                                 "\"ShellShowHistoryMRU\"=dword:0\n"
-                                 "\"ShellShowQuickAccessMRU\"=dword:0\n"
-                                 "\"ShellShowFlags\"=dword:0\n"
-                              << lines;
-  }
-
-  Answer Run(const Arguments& arguments) const {
-    const std::string output = (m_scratch.Path() / "output").string();
-    const std::string errors = (m_scratch.Path() / "errors").string();
-    std::string command = "'" ORVANE_TOOL "'";
-    for (const std::string& argument : arguments) command += " '" + argument + "'";
-    command += " >'" + output + "' 2>'" + errors + "'";
-    const int status = WEXITSTATUS(std::system(command.c_str()));
-    return {status, test::TextOfFile(output), test::TextOfFile(errors)};
+    Put(m_registry,
+        "Windows Registry Editor Version 5.00\n\n"
+        "[HKEY_CURRENT_USER\\Software\\Tarnwick\\Orvane]\n"
+        "\"ShellShowHistoryMRU\"=dword:0\n"
+        "\"ShellShowQuickAccessMRU\"=dword:0\n"
+        "\"ShellShowFlags\"=dword:0\n" +
+            lines);
   }
 
   Answer Show(const Arguments& more) const {
-    Arguments all = {"preview",           "--config",  Data + "every-kind.cfg", "--registry",
-                     m_registry.string(), "--drive-c", m_driveC.string()};
+    Arguments all = {"preview",        "--config",  Data + "every-kind.cfg", "--registry",
+                     Utf8(m_registry), "--drive-c", Utf8(m_driveC)};
     all.insert(all.end(), more.begin(), more.end());
     return Run(all);
   }
@@ -65,7 +44,6 @@ class Preview : public testing::Test {
     return Json::parse(Show(more).output, nullptr, false);
   }
 
-  ScratchFolder m_scratch;
   std::filesystem::path m_driveC = m_scratch.Path() / "c";
   std::filesystem::path m_registry = m_scratch.Path() / "settings.reg";
 };
@@ -101,6 +79,7 @@ TEST_F(Preview, ShowsTheMenuAsText) {
   EXPECT_EQ(answer.status, 0);
 }
 
+#ifndef _WIN32  // whose library makes no links
 TEST_F(Preview, EntersADirectoryThatLinksToItselfAsFarAsAsked) {
   std::filesystem::remove_all(m_driveC / "Work");
   std::filesystem::create_directories(m_driveC / "Work");
@@ -110,6 +89,7 @@ TEST_F(Preview, EntersADirectoryThatLinksToItselfAsFarAsAsked) {
             std::string::npos)
       << answer.output;
 }
+#endif
 
 TEST_F(Preview, ShowsTheMenuAsJson) {
   const Json json = ShowJson({"--id-first", "100", "--help-texts"});
@@ -148,9 +128,9 @@ TEST_F(Preview, ListsWhatLeftTheComponent) {
 }
 
 TEST_F(Preview, PlaysAnActionIntoTheInvokingWindowOrItsParents) {
-  const std::string actions = (m_scratch.Path() / "actions.ini").string();
-  std::ofstream(actions) << "[a]\nType=1\nOptions=1\nDescription=d\nCaption=Frame\nCaptionMatch=2\n"
-                            "Actions=x\n";
+  const std::string actions = Scratch("actions.ini");
+  Put(Path(actions),
+      "[a]\nType=1\nOptions=1\nDescription=d\nCaption=Frame\nCaptionMatch=2\nActions=x\n");
   Arguments windows = {"--window", "Top:Frame:C:\\a.exe"};
   for (int parents = 0; parents < 3; ++parents) {
     Arguments arguments = {"--actions", actions, "--invoke", "Orvane/Work"};
@@ -166,20 +146,12 @@ TEST_F(Preview, PlaysAnActionIntoTheInvokingWindowOrItsParents) {
 
 TEST_F(Preview, EndsWithOneLineAndStatus2) {
   const std::string good = Data + "every-kind.cfg";
-  const std::string badRegistry = (m_scratch.Path() / "bad.reg").string();
-  std::ofstream(badRegistry) << "Windows Registry Editor Version 5.00\n\nstray\n";
-  const auto refuses = [&](const Arguments& arguments, const std::string& part) {
-    const Answer answer = Run(arguments);
-    EXPECT_EQ(answer.status, 2) << part;
-    EXPECT_EQ(answer.output, "") << part;
-    EXPECT_NE(answer.errors.find(part), std::string::npos) << part << "\n" << answer.errors;
-    EXPECT_EQ(std::ranges::count(answer.errors, '\n'), 1) << answer.errors;
-  };
-  refuses({}, "subcommand");
-  refuses({"preview"}, "--config");
-  refuses({"preview", "--config", "/none"}, "/none");
-  refuses({"preview", "--config", m_driveC.string()}, "cannot be read");
-  refuses({"preview", "--config", good, "--bogus"}, "--bogus");
+  const std::string badRegistry = Scratch("bad.reg");
+  Put(Path(badRegistry), "Windows Registry Editor Version 5.00\n\nstray\n");
+  ExpectRefusal({"preview"}, "--config");
+  ExpectRefusal({"preview", "--config", "/none"}, "/none");
+  ExpectRefusal({"preview", "--config", Utf8(m_driveC)}, "cannot be read");
+  ExpectRefusal({"preview", "--config", good, "--bogus"}, "--bogus");
   const struct {
     const char* option;
     std::string value;
@@ -189,13 +161,15 @@ TEST_F(Preview, EndsWithOneLineAndStatus2) {
       {"--id-last", "12x", "12x"},
       {"--drive-c", good, "no directory"},
       {"--registry", badRegistry, "bad.reg: line 3"},
+#ifndef _WIN32  // where every argument is a text
       {"--select", "\xFF", "UTF-8"},
+#endif
       {"--open", "Orvane/None", "Orvane/None"},
       {"--open", "Orvane/Work", "no submenu"},
       {"--window", "OnlyAClass", "CLASS:CAPTION:EXE"},
   };
   for (const auto& row : rows)
-    refuses({"preview", "--config", good, row.option, row.value}, row.part);
+    ExpectRefusal({"preview", "--config", good, row.option, row.value}, row.part);
 }
 
 }  // namespace

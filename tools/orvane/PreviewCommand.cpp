@@ -1,7 +1,10 @@
 #include "PreviewCommand.h"
 
+#include <CLI/CLI.hpp>
+
 #include <iostream>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 
 #include "PreviewJson.h"
@@ -82,20 +85,12 @@ void AddOptions(CLI::App& preview, Arguments& arguments) {
 
 }  // namespace
 
-void AddPreviewCommand(CLI::App& app, int& exitCode) {
+void AddPreviewCommand(CLI::App& app) {
   const auto arguments = std::make_shared<Arguments>();
   CLI::App* preview =
       app.add_subcommand("preview", "Shows the menu of a right-click on a desktop in memory");
   AddOptions(*preview, *arguments);
-  preview->callback([arguments, &exitCode] {
-    try {
-      Preview(*arguments);
-      exitCode = 0;
-    } catch (const std::exception& error) {
-      std::cerr << "orvane: " << error.what() << '\n';
-      exitCode = 2;
-    }
-  });
+  preview->callback([arguments] { Preview(*arguments); });
 }
 
 }  // namespace orvane::tool

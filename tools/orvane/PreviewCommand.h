@@ -1,11 +1,12 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+namespace CLI {
+class App;
+}
 
 namespace orvane::tool {
 
-/// Adds `preview`. When it was asked for, `exitCode` is set to 0, or to 2 after a line on standard
-/// error.
-void AddPreviewCommand(CLI::App& app, int& exitCode);
+/// Adds `preview`. It throws what stops it.
+void AddPreviewCommand(CLI::App& app);
 
 }  // namespace orvane::tool

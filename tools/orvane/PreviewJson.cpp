@@ -1,5 +1,7 @@
 #include "PreviewJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include "support/Utf8.h"
 
 namespace orvane::tool {

@@ -1,11 +1,11 @@
 #include "PreviewSession.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <span>
 #include <stdexcept>
 #include <utility>
 
+#include "Host.h"
 #include "HostFile.h"
 #include "memory/DataObject.h"
 #include "memory/RegFile.h"
@@ -67,9 +67,10 @@ const MenuEntry* FindEntry(const memory::Menus& menus, MenuHandle menu, std::wst
 
 PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(options) {
   if (!options.driveC.empty()) {
-    if (!std::filesystem::is_directory(options.driveC))
+    const std::filesystem::path directory = HostPath(options.driveC);
+    if (!std::filesystem::is_directory(directory))
       throw std::runtime_error(options.driveC + ": is no directory");
-    desktop.files.Mount(L"C:", options.driveC);
+    desktop.files.Mount(L"C:", directory);
     desktop.files.AddFolder(desktop.system.programFolder);  // where logs go
   }
   if (!options.registry.empty()) Import(options.registry, desktop.registry);

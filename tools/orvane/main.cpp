@@ -2,23 +2,51 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
 
+#include "Host.h"
 #include "MenuCommand.h"
 #include "PreviewCommand.h"
+#include "Subcommands.h"
+
+namespace orvane::tool {
+namespace {
+
+/// One line for each. A subcommand throws what stops it (exit code 2); one that has more to say
+/// than success sets `exitCode`.
+void AddSubcommands(CLI::App& app, [[maybe_unused]] int& exitCode) {
+  AddMenuCommand(app);
+  AddPreviewCommand(app);
+}
+
+int Run(std::vector<std::string> arguments) {
+  CLI::App app("Orvane's companion", "orvane");
+  app.allow_windows_style_options(false);  // "/name" is a path everywhere
+  app.require_subcommand(1);
+  app.set_version_flag("--version", "orvane " ORVANE_VERSION, "Print the version and end");
+  int exitCode = 0;
+  AddSubcommands(app, exitCode);
+  try {
+    CheckSubcommands(app, arguments);
+    std::ranges::reverse(arguments);  // as the parser takes them
+    app.parse(std::move(arguments));
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) return app.exit(error);  // --help, --version
+    throw;
+  }
+  return exitCode;
+}
+
+}  // namespace
+}  // namespace orvane::tool
 
 int main(int argc, char** argv) {
-  CLI::App app("Orvane's companion", "orvane");
-  app.require_subcommand(1);
-  int exitCode = 0;
-  orvane::tool::AddMenuCommand(app, exitCode);
-  orvane::tool::AddPreviewCommand(app, exitCode);
+  const orvane::tool::HostOutput output;
   try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    if (error.get_exit_code() == 0) return app.exit(error);  // --help
+    return orvane::tool::Run(orvane::tool::Arguments(argc, argv));
+  } catch (const std::exception& error) {
     std::cerr << "orvane: " << error.what() << '\n';
     return 2;
   }
-  return exitCode;
 }
