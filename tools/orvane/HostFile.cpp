@@ -48,8 +48,8 @@ bool Replace(const fs::path& path, std::span<const std::byte> bytes) {
 
 bool WriteFileOrDevice(const fs::path& path, std::span<const std::byte> bytes) {
   std::error_code error;
-  fs::path target = fs::weakly_canonical(path, error);
-  if (error) target = path;
+  fs::path target = path;
+  if (fs::is_symlink(path, error)) target = fs::weakly_canonical(path);
   const bool replaced = !fs::exists(target, error) || fs::is_regular_file(target, error);
   return replaced ? Replace(target, bytes) : WriteInto(target, bytes);
 }
