@@ -35,6 +35,23 @@ std::wstring CommandInterpreter(SystemInfo& system) {
   return program;
 }
 
+/// Waits for another window than `before` to be in front: a busy shell opens its dialog late, and
+/// a path with Enter behind it must not land in a document.
+bool IsRunDialogThere(const Platform& platform, WindowHandle before) {
+  constexpr std::uint32_t UsualWait = 100;  // milliseconds
+  constexpr std::uint32_t LongerWait = 1000;
+  constexpr std::uint32_t Interval = 50;
+  platform.windows.RunMessages(UsualWait);
+  platform.clock.Pause(UsualWait);
+  for (std::uint32_t waited = 0;; waited += Interval) {
+    const WindowHandle front = platform.keyboard.Front();
+    if (front != WindowHandle::None && front != before) return true;
+    if (waited >= LongerWait) return false;
+    platform.windows.RunMessages(Interval);
+    platform.clock.Pause(Interval);
+  }
+}
+
 }  // namespace
 
 void AddToQuickAccess(const CommandContext& context) {
@@ -60,16 +77,16 @@ void StartDesigner(const CommandContext& context, WindowHandle window) {
 }
 
 void TypeIntoRunDialog(const CommandContext& context) {
-  constexpr std::uint16_t LetterR = 82;
-  constexpr std::uint32_t UntilItIsThere = 100;  // milliseconds
   Keyboard& keyboard = context.platform.keyboard;
+  const WindowHandle before = keyboard.Front();
   keyboard.Press(Keyboard::LeftWindows, false);
-  keyboard.Press(LetterR, false);
-  keyboard.Press(LetterR, true);
+  keyboard.Press(Keyboard::LetterR, false);
+  keyboard.Press(Keyboard::LetterR, true);
   keyboard.Press(Keyboard::LeftWindows, true);
-  context.platform.windows.RunMessages(UntilItIsThere);
-  context.platform.clock.Pause(UntilItIsThere);
-  SendKeys(keyboard, InQuotesWhenBlank(context.m_szSelectedItem));
+  if (IsRunDialogThere(context.platform, before))
+    SendKeys(keyboard, InQuotesWhenBlank(context.m_szSelectedItem));
+  else
+    Log(L"The Run dialog does not open");
 }
 
 /// The folder is the new process's alone: the host's own current folder, which other threads of it

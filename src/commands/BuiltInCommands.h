@@ -12,8 +12,9 @@ void AddToQuickAccess(const CommandContext& context);
 /// Starts the designer beside the program, or from its folder in a tree of sources.
 void StartDesigner(const CommandContext& context, WindowHandle window);
 
-/// Opens the shell's Run dialog and types the selected item's path into it. The characters that
-/// mean something in the keystroke notation are not escaped.
+/// Opens the shell's Run dialog and types the selected item's path into it; nothing when no dialog
+/// comes to the front. The characters that mean something in the keystroke notation are not
+/// escaped.
 void TypeIntoRunDialog(const CommandContext& context);
 
 /// Opens a command prompt in the current folder.

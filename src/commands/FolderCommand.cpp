@@ -53,6 +53,7 @@ bool FolderCommand::Find(const clsOrvaneData& item) {
 }
 
 void FolderCommand::ShowInWindow() {
+  if (!m_pidl) return Warn(m_platform.boxes, L"Path not found - " + m_folder);
   if (PlayWindowAction()) return;
   if (!BrowseIn(m_window)) {
     const WindowHandle parent = GetRootExplorerWindow(m_platform.windows, m_window);
@@ -64,13 +65,15 @@ void FolderCommand::ShowInWindow() {
 
 bool FolderCommand::PlayWindowAction() {
   if (m_context.m_lNumWindowActions == 0) return false;
+  const std::wstring path = PidlToPath(m_platform.shell, m_pidl);
+  if (path.empty()) return false;
   clsCustomActions action(m_context.actions);
   const WindowHandle window =
       action.MatchWindow(m_window, m_context.g_Options.m_szShellCustomActionsFile);
   if (window == WindowHandle::None) return false;
   Log(L"hWnd=", Hex(window), L"  Action=", action.m_szDescription);
   ActivateWindowProcess(m_platform.processes, window);
-  action.SendActions(PidlToPath(m_platform.shell, m_pidl));
+  action.SendActions(path);
   return true;
 }
 

@@ -19,7 +19,7 @@ class FolderCommand {
   /// Sets folder and list; false, after telling the user, for a special folder that is none here.
   bool Find(const clsOrvaneData& item);
   void ShowInWindow();
-  /// Lets a custom action made for the window do it; false when there is none.
+  /// Lets a custom action made for the window do it; false when there is none, or no path to type.
   bool PlayWindowAction();
   bool BrowseIn(WindowHandle window);
   void ShowInNewWindow(const clsOrvaneData& item);

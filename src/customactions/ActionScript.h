@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "menudata/clsCollection.h"
+#include <variant>
+#include <vector>
 
 namespace orvane {
 
@@ -16,14 +17,35 @@ struct ActionToken {
   static constexpr std::wstring_view Selection = L"orv_selection";
 };
 
+// The steps of a script.
+struct LiteralStep {
+  std::wstring keys;
+  bool operator==(const LiteralStep&) const = default;
+};
+struct ItemStep {
+  bool operator==(const ItemStep&) const = default;
+};
+struct SelectionStep {
+  bool operator==(const SelectionStep&) const = default;
+};
+struct DateStep {
+  std::wstring format;
+  bool operator==(const DateStep&) const = default;
+};
+struct PauseStep {
+  std::int32_t milliseconds;
+  bool operator==(const PauseStep&) const = default;
+};
+using ActionStep = std::variant<LiteralStep, ItemStep, SelectionStep, DateStep, PauseStep>;
+using ActionSteps = std::vector<ActionStep>;
+
 struct ScriptResult {
   bool whole = false;      // the script was parsed to its end
   std::wstring badNumber;  // the pause argument that is no number, when that ended the parsing
 };
 
-/// Breaks a script into its steps, one node each, in script order: m_szKey the token's bare name
-/// (empty: literal keystrokes), m_szData the literal text or the date format, m_lData the pause.
-/// Clears `steps` first. After a failure they hold what was parsed before it.
-ScriptResult ParseActionScript(std::wstring_view script, clsCollection& steps);
+/// Breaks a script into its steps, in its order. Clears `steps` first. After a failure they hold
+/// what was parsed before it.
+ScriptResult ParseActionScript(std::wstring_view script, ActionSteps& steps);
 
 }  // namespace orvane

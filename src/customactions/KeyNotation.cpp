@@ -56,28 +56,15 @@ std::uint16_t KeyOfName(std::wstring_view name) {
   throw Error(Error::InvalidArgument, L"No key is named {" + std::wstring(name) + L"}");
 }
 
-/// How a character is typed: by its key while a modifier is held, so that the window sees the
-/// shortcut. The keys named here are the same on every keyboard layout.
-KeyEvent EventOf(char16_t unit, bool modified) {
-  const auto key = [](int code) { return KeyEvent{.code = static_cast<std::uint16_t>(code)}; };
-  if (modified) {
-    if ((unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || unit == u' ')
-      return key(unit);
-    if (unit >= u'a' && unit <= u'z') return key(unit - 32);
-    switch (unit) {
-      case u'+':
-        return key(0xBB);
-      case u',':
-        return key(0xBC);
-      case u'-':
-        return key(0xBD);
-      case u'.':
-        return key(0xBE);
-      default:
-        break;
-    }
-  }
-  return {.kind = KeyEvent::Kind::Character, .code = unit};
+/// The key of a letter, a digit or one of the marks whose keys are named alike everywhere.
+std::optional<std::uint16_t> CommonKey(char16_t unit) {
+  if (unit >= u'a' && unit <= u'z') return static_cast<std::uint16_t>(unit - 32);
+  if ((unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || unit == u' ') return unit;
+  constexpr std::u16string_view Marks = u"+,-.";
+  constexpr std::uint16_t FirstMark = 0xBB;
+  const std::size_t mark = Marks.find(unit);
+  if (mark == Marks.npos) return {};
+  return static_cast<std::uint16_t>(FirstMark + mark);
 }
 
 class NotationParser {
@@ -163,9 +150,24 @@ class NotationParser {
     const std::u16string units = ToUnits(text);
     CheckRoom(count, 2 * units.size());
     for (; count > 0; --count) {
-      for (const char16_t unit : units) Stroke(EventOf(unit, m_held != 0));
+      for (const char16_t unit : units) Stroke(EventOf(unit));
     }
     Release(pressed);
+  }
+
+  /// How a character is typed: while a modifier is held by its key, so that the window sees the
+  /// shortcut. With Shift alone that is left to what every layout has in common.
+  KeyEvent EventOf(char16_t unit) const {
+    if (m_held == 0) return {.kind = KeyEvent::Kind::Character, .code = unit};
+    if (const auto key = CommonKey(unit)) return {.code = *key};
+    const bool isShortcut = (m_held & ~ModifierOf(L'+')) != 0;
+    if (!isShortcut) return {.kind = KeyEvent::Kind::Character, .code = unit};
+    return {.kind = KeyEvent::Kind::Shortcut, .code = LowerUnit(unit)};
+  }
+
+  /// As with Latin letters, the case of any other says nothing of Shift.
+  static std::uint16_t LowerUnit(char16_t unit) {
+    return static_cast<std::uint16_t>(LowerCase(static_cast<wchar_t>(unit)));
   }
 
   void Stroke(KeyEvent event) {
@@ -217,7 +219,7 @@ std::vector<KeyEvent> ParseKeyNotation(std::wstring_view text) {
 bool SendKeys(Keyboard& keyboard, const std::wstring& text) {
   TraceScope scope(L"SendKeys");
   Log(L"szText=", text);
-  return keyboard.Type(text, ParseKeyNotation(text));
+  return keyboard.Type({{text, ParseKeyNotation(text)}});
 }
 
 }  // namespace orvane

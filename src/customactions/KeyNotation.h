@@ -16,7 +16,8 @@ namespace orvane {
 //   {c}           the character c itself, whichever it is
 //   {NAME n} {c n}  the same n times
 // Square brackets stand for themselves too. Under a modifier a letter or digit means its key, so
-// that ^C and ^c are one; a character without such a key is typed as it is.
+// that ^C and ^c are one; under Ctrl and Alt every other character means the key that types it on
+// the window's keyboard layout, where there is one.
 
 /// More key events than any text has good use for, less than fill the memory or take a minute.
 constexpr std::size_t MaxKeyEvents = 100'000;
@@ -25,8 +26,8 @@ constexpr std::size_t MaxKeyEvents = 100'000;
 /// no proper notation, Error 6 beyond MaxKeyEvents.
 std::vector<KeyEvent> ParseKeyNotation(std::wstring_view text);
 
-/// Types the text into the foreground window and waits until it has been taken. False when the
-/// window did not take it in time; errors as from ParseKeyNotation, nothing typed then.
+/// Types the text into the window that has the keyboard: see Keyboard::Type. Errors as from
+/// ParseKeyNotation, nothing typed then.
 bool SendKeys(Keyboard& keyboard, const std::wstring& text);
 
 }  // namespace orvane

@@ -5,6 +5,7 @@
 #include "customactions/ActionsFile.h"
 #include "customactions/WindowMatch.h"
 #include "customactions/clsProcess.h"
+#include "menudata/clsCollection.h"
 #include "platform/ProfileFiles.h"
 #include "support/FullPath.h"
 #include "support/Number.h"

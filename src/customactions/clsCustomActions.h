@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "menudata/clsCollection.h"
+#include "customactions/ActionScript.h"
 #include "platform/Handles.h"
 
 namespace orvane {
@@ -19,6 +19,7 @@ class Locale;
 class MessageBoxes;
 class ProfileFiles;
 class Windows;
+struct KeyText;
 struct LocalTime;
 struct MatchTarget;
 
@@ -102,9 +103,10 @@ class clsCustomActions {
 
   /// Breaks m_szActions into steps (see ParseActionScript). A pause that is no number is shown to
   /// the user. `bSuccess`: the whole script was understood.
-  void BreakdownActions(clsCollection& steps, bool& bSuccess);
+  void BreakdownActions(ActionSteps& steps, bool& bSuccess);
 
-  /// Plays the script into the foreground window, the item token as `szItem`.
+  /// Plays the script into the window that has the keyboard, the item token as `szItem`. What is
+  /// behind a pause may be typed after this call and this object are gone: see Keyboard::Pause.
   void SendActions(const std::wstring& szItem);
 
   /// The script as one text, its tokens replaced; unchanged when it is not understood.
@@ -123,7 +125,10 @@ class clsCustomActions {
   bool MatchCaption(const MatchTarget& target) const;
   bool MatchClass(const MatchTarget& target) const;
 
-  bool PlayStep(const clsCollection& step, const std::wstring& szItem, const LocalTime& now);
+  std::wstring StepText(const ActionStep& step, const std::wstring& szItem,
+                        const std::wstring& szSelection, const LocalTime& now);
+  void AddKeys(std::vector<KeyText>& run, const ActionStep& step, const std::wstring& szItem,
+               const LocalTime& now);
 
   ActionServices m_services;
 };

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "customactions/ActionScript.h"
 #include "customactions/KeyNotation.h"
@@ -12,9 +13,30 @@
 namespace orvane {
 namespace {
 
-// Scripts are played on the thread of the shell's window, which does not answer meanwhile: all the
-// pauses of one script together, and the time spent on a window that takes no keys, are bounded.
-constexpr std::uint32_t MaxWait = 60'000;  // milliseconds
+/// Plays runs of keys with pauses between them, a minute at most: scripts run on the thread of the
+/// shell's window. All pauses together count, and the time spent on windows that take no keys.
+class KeyPlayer {
+ public:
+  explicit KeyPlayer(Keyboard& keyboard) : m_keyboard(keyboard) {}
+
+  /// False when the minute is over.
+  bool Play(const std::vector<KeyText>& run) {
+    if (run.empty() || m_keyboard.Type(run)) return true;
+    if (m_waitLeft < Keyboard::Patience) return false;
+    m_waitLeft -= Keyboard::Patience;
+    return true;
+  }
+
+  void Pause(std::uint32_t milliseconds) {
+    const std::uint32_t wait = std::min(milliseconds, m_waitLeft);
+    if (wait > 0) m_keyboard.Pause(wait);
+    m_waitLeft -= wait;
+  }
+
+ private:
+  Keyboard& m_keyboard;
+  std::uint32_t m_waitLeft = 60'000;  // milliseconds
+};
 
 std::wstring Bracketed(std::wstring_view name) {
   return L"[" + std::wstring(name) + L"]";
@@ -47,7 +69,7 @@ std::wstring clsCustomActions::TokenSelectionEx() {
   return std::wstring(ActionToken::Selection);
 }
 
-void clsCustomActions::BreakdownActions(clsCollection& steps, bool& bSuccess) {
+void clsCustomActions::BreakdownActions(ActionSteps& steps, bool& bSuccess) {
   TraceScope scope(L"BreakdownActions");
   const ScriptResult result = ParseActionScript(m_szActions, steps);
   if (!result.badNumber.empty())
@@ -60,38 +82,57 @@ void clsCustomActions::SendActions(const std::wstring& szItem) {
   TraceScope scope(L"SendActions");
   Log(L"szItem=", szItem);
   const LocalTime now = m_services.clock.Now();
-  clsCollection steps;
+  ActionSteps steps;
   bool success = false;
   BreakdownActions(steps, success);
   if (!success) return;
 
-  std::uint32_t waitLeft = MaxWait;
-  for (const clsCollection::Node& step : steps) {
-    if (step->m_szKey == ActionToken::Pause) {
-      const std::int32_t pause = std::max(step->m_lData, 0);
-      const std::uint32_t wait = std::min(static_cast<std::uint32_t>(pause), waitLeft);
-      if (wait > 0) m_services.clock.Pause(wait);
-      waitLeft -= wait;
-    } else if (!PlayStep(*step, szItem, now)) {
-      if (waitLeft < Keyboard::Patience) return;
-      waitLeft -= Keyboard::Patience;
+  KeyPlayer player(m_services.keyboard);
+  std::vector<KeyText> run;
+  for (const ActionStep& step : steps) {
+    const auto* pause = std::get_if<PauseStep>(&step);
+    if (!pause) {
+      AddKeys(run, step, szItem, now);
+    } else if (pause->milliseconds > 0) {
+      if (!player.Play(std::exchange(run, {}))) return;
+      player.Pause(static_cast<std::uint32_t>(pause->milliseconds));
     }
+  }
+  player.Play(run);
+}
+
+/// Adds what one step types to the keys that are played together; nothing when it cannot be typed.
+void clsCustomActions::AddKeys(std::vector<KeyText>& run, const ActionStep& step,
+                               const std::wstring& szItem, const LocalTime& now) {
+  TraceScope scope(L"AddKeys");
+  try {
+    const std::wstring text = StepText(step, szItem, L"", now);
+    Log(L"szText=", text);
+    if (!text.empty()) run.push_back({text, ParseKeyNotation(text)});
+  } catch (...) {
+    scope.Caught();
   }
 }
 
-/// Types one step, errors ignored. False when the window did not take the keys.
-bool clsCustomActions::PlayStep(const clsCollection& step, const std::wstring& szItem,
-                                const LocalTime& now) {
-  TraceScope scope(L"PlayStep");
-  try {
-    std::wstring keys = step.m_szData;
-    if (step.m_szKey == ActionToken::Item) keys = szItem;
-    if (step.m_szKey == ActionToken::Date) keys = FormatDate(m_services.locale, now, step.m_szData);
-    return keys.empty() || SendKeys(m_services.keyboard, keys);
-  } catch (...) {
-    scope.Caught();
-    return true;
-  }
+std::wstring clsCustomActions::StepText(const ActionStep& step, const std::wstring& szItem,
+                                        const std::wstring& szSelection, const LocalTime& now) {
+  struct Text {
+    std::wstring operator()(const LiteralStep& literal) const { return literal.keys; }
+    std::wstring operator()(const ItemStep&) const { return item; }
+    std::wstring operator()(const SelectionStep&) const { return selection; }
+    std::wstring operator()(const DateStep& date) const {
+      return FormatDate(locale, now, date.format);
+    }
+    std::wstring operator()(const PauseStep& pause) const {
+      return Bracketed(TokenPauseEx() + L" " + std::to_wstring(pause.milliseconds));
+    }
+
+    const std::wstring& item;
+    const std::wstring& selection;
+    Locale& locale;
+    const LocalTime& now;
+  };
+  return std::visit(Text{szItem, szSelection, m_services.locale, now}, step);
 }
 
 std::wstring clsCustomActions::BuildActionString(const std::wstring& szItem,
@@ -99,25 +140,12 @@ std::wstring clsCustomActions::BuildActionString(const std::wstring& szItem,
   TraceScope scope(L"BuildActionString");
   Log(L"szItem=", szItem, L"  szSelection=", szSelection);
   const LocalTime now = m_services.clock.Now();
-  clsCollection steps;
+  ActionSteps steps;
   bool success = false;
   BreakdownActions(steps, success);
   if (!success) return m_szActions;
-
   std::wstring text;
-  for (const clsCollection::Node& step : steps) {
-    if (step->m_szKey == ActionToken::Item) {
-      text += szItem;
-    } else if (step->m_szKey == ActionToken::Selection) {
-      text += szSelection;
-    } else if (step->m_szKey == ActionToken::Date) {
-      text += FormatDate(m_services.locale, now, step->m_szData);
-    } else if (step->m_szKey == ActionToken::Pause) {
-      text += Bracketed(step->m_szKey + L" " + std::to_wstring(step->m_lData));
-    } else {
-      text += step->m_szData;
-    }
-  }
+  for (const ActionStep& step : steps) text += StepText(step, szItem, szSelection, now);
   return text;
 }
 

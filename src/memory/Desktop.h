@@ -73,7 +73,7 @@ struct Desktop {
   Gdi gdi{faults};
   ShellIcons icons{files, faults};
   Clipboard clipboard{effects, faults};
-  Keyboard keyboard{effects, faults};
+  Keyboard keyboard{clock, effects, faults};
   Processes processes{windows, effects, faults};
   Launcher launcher{shell, windows, effects, faults};
   FileOperations operations{effects, faults};

@@ -8,8 +8,10 @@ namespace orvane::win32 {
 class Keyboard : public orvane::Keyboard {
  public:
   bool IsDown(std::uint16_t virtualKey) override;
+  WindowHandle Front() override;
   void Press(std::uint16_t virtualKey, bool up) override;
-  bool Type(const std::wstring& text, const std::vector<KeyEvent>& events) override;
+  bool Type(const std::vector<KeyText>& texts) override;
+  void Pause(std::uint32_t milliseconds) override;
 };
 
 }  // namespace orvane::win32

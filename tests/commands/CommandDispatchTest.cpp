@@ -200,6 +200,13 @@ TEST_F(Dispatch, RunDialogIsOpenedAndTypedInto) {
     selectedItem = row.item;
     EXPECT_EQ(Run(Data::TypeRunDialog), lines);
   }
+  selectedItem = L"x";
+  desktop.keyboard.runDialogAfter = 1'000;
+  EXPECT_EQ(Run(Data::TypeRunDialog).back(), "SendKeys text=x");
+  desktop.keyboard.runDialogAfter = 10'000;
+  Lines late = keys;
+  late.insert(late.end(), 20, "Sleep ms=50");
+  EXPECT_EQ(Run(Data::TypeRunDialog), late) << "nothing for the window that was in front before";
 }
 
 TEST_F(Dispatch, CommandPromptIsStartedByItsFullPath) {

@@ -90,7 +90,7 @@ TEST_F(FolderEntry, WhatDoesNotOpenSaysWhyAndIsHistoryAllTheSame) {
   desktop.launcher.failures[L"C:\\Gone"] = 3;
   EXPECT_EQ(Run(true).back(), Warning("Path not found - C:\\Gone"));
   history.Reset();
-  Run();
+  EXPECT_EQ(Run(), (Lines{Warning("Path not found - C:\\Gone")}));
   EXPECT_EQ(ItemsOf(history), (std::vector<std::wstring>{L"1 C:\\Gone Work"}));
 }
 
@@ -116,6 +116,13 @@ TEST_F(FolderEntry, WindowActionTakesTheFolderInstead) {
   EXPECT_EQ(Run(), (Lines{"SendKeys text=cd ", "SendKeys text=C:\\Work", "SendKeys text=~"}));
   EXPECT_EQ(desktop.windows.Active(), window);
   EXPECT_EQ(Run(true), (Lines{Explore}));
+  item.Location(L"C:\\Gone");
+  EXPECT_EQ(Run(), (Lines{Warning("Path not found - C:\\Gone")}));
+  SetSpecial(Printers);
+  EXPECT_EQ(Run(), (Lines{"ShellExecuteEx verb=open show=1 class=Folder item=Printers"}))
+      << "it has no path to type";
+  item.m_lOptions = 0;
+  item.Location(L"C:\\Work");
   windowActions = 0;
   EXPECT_EQ(Run(), (Lines{NewWindow}));
 }

@@ -13,17 +13,18 @@ namespace orvane {
 namespace {
 
 /// The events as a line to compare: a stroked character as itself, a stroked virtual key as its
-/// number in "<>", a modifier as its letter, in lower case when it is released.
+/// number in "<>", a shortcut in "'", a modifier as its letter, in lower case when it is released.
 std::string Shown(const std::vector<KeyEvent>& events) {
   std::string shown;
   for (std::size_t i = 0; i < events.size(); ++i) {
     const auto [kind, code, up] = events[i];
-    const bool isCharacter = kind == KeyEvent::Kind::Character;
+    const bool isCharacter = kind != KeyEvent::Kind::VirtualKey;
     if (!isCharacter && code >= Keyboard::Shift && code <= Keyboard::Alt) {
       shown += (up ? "sca" : "SCA")[code - Keyboard::Shift];
       continue;
     }
     if (up || i + 1 == events.size() || events[++i] != KeyEvent{kind, code, true}) return "broken";
+    if (kind == KeyEvent::Kind::Shortcut) shown += "'";
     if (isCharacter && code < 128)
       shown += static_cast<char>(code);
     else
@@ -50,7 +51,8 @@ TEST(KeyNotation, StandsForTheseKeys) {
       {L"%{F4}", "A<115>a"},
       {L"^+{ESC}", "SC<27>cs"},
       {L"^(a+(b)c)", "C<65>S<66>s<67>c"},
-      {L"^{+}% ^/", "C<187>cA<32>aC/c"},  // a key where there is one
+      {L"^{+}% %,-.", "C<187>cA<32>aA<188>a-."},
+      {L"^/%([\u0416)+;", "C'/cA'['<u1078>aS;s"},  // the window's layout knows the key
       {L"+()(+(a+b))c", "SsS<65><66>sc"},
       // named keys, in any case
       {L"{ENTER}{Return}{ESC}{escape}{TAB}", "<13><13><27><27><9>"},

@@ -59,15 +59,15 @@ TEST_F(SendActionsTest, GivesUpAWindowThatTakesNoKeys) {
   class DeafKeyboard : public memory::Keyboard {
    public:
     using memory::Keyboard::Keyboard;
-    bool Type(const std::wstring&, const std::vector<KeyEvent>&) override { return ++times, false; }
+    bool Type(const std::vector<KeyText>&) override { return ++times, false; }
     int times = 0;
   };
-  DeafKeyboard keyboard(desktop.effects, desktop.faults);
+  DeafKeyboard keyboard(desktop.clock, desktop.effects, desktop.faults);
   clsCustomActions patient({files, profiles, desktop.windows, process, keyboard, desktop.clock,
                             desktop.locale, desktop.boxes, codePage});
-  for (int i = 0; i < 1000; ++i) patient.m_szActions += L"a[orv_item]";
+  for (int i = 0; i < 1000; ++i) patient.m_szActions += L"a[orv_pause 1]";
   patient.SendActions(L"x");
-  EXPECT_EQ(keyboard.times, 31) << "a minute, at the keyboard's patience";
+  EXPECT_EQ(keyboard.times, 30) << "a minute, at the keyboard's patience";
 }
 
 TEST_F(SendActionsTest, BuildsOneText) {
