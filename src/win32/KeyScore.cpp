@@ -10,6 +10,13 @@ namespace {
 
 thread_local constinit KeyScore* t_score = nullptr;
 
+/// The timer calls this module after the handler whose script it plays has gone.
+void StayLoaded() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                     reinterpret_cast<const wchar_t*>(&StayLoaded), &module);
+}
+
 }  // namespace
 
 KeyScore* KeyScore::Current() {
@@ -20,7 +27,9 @@ void KeyScore::AddPause(DWORD milliseconds) {
   auto made = t_score ? nullptr : std::make_unique<KeyScore>();
   KeyScore& score = made ? *made : *t_score;
   score.m_steps.push_back({milliseconds, {}});
-  if (made) (t_score = made.release())->Wait(0);
+  if (!made) return;
+  StayLoaded();
+  (t_score = made.release())->Wait(0);
 }
 
 void KeyScore::AddKeys(std::vector<KeyEvent> events) {
