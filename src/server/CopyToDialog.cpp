@@ -52,10 +52,11 @@ void CopyToDialog::LoadPictures() {
   const auto load = [&](const wchar_t* name, UINT type, int size) {
     return LoadImageW(Instance(), name, type, size, size, LR_DEFAULTCOLOR);
   };
-  m_folder.reset(
-      static_cast<HICON>(load(L"folder_open", IMAGE_ICON, GetSystemMetrics(SM_CXSMICON))));
+  UniqueIcon folder(
+      static_cast<HICON>(load(L"folder_open", IMAGE_ICON, Scaled(GetSystemMetrics(SM_CXSMICON)))));
   SendMessageW(Control(IDC_BROWSE), BM_SETIMAGE, IMAGE_ICON,
-               reinterpret_cast<LPARAM>(m_folder.get()));
+               reinterpret_cast<LPARAM>(folder.get()));
+  m_folder = std::move(folder);
   if (m_model.HasBackground())
     m_background.reset(static_cast<HBITMAP>(load(L"background", IMAGE_BITMAP, 0)));
 }
@@ -119,7 +120,7 @@ void CopyToDialog::PaintSlot(const DRAWITEMSTRUCT& item) const {
   RECT margin{0, 0, 4, 0};
   MapDialogRect(Window(), &margin);
   RECT rect = item.rcItem;
-  InflateRect(&rect, -margin.right, 0);
+  InflateRect(&rect, -Scaled(margin.right), 0);
   const UINT keys = (item.itemState & ODS_NOACCEL) ? DT_HIDEPREFIX : 0;
   DrawTextW(item.hDC, TextOf(item.hwndItem).c_str(), -1, &rect,
             DT_SINGLELINE | DT_VCENTER | DT_PATH_ELLIPSIS | keys);

@@ -27,6 +27,7 @@ class CopyToDialog : private windowing::DialogWindow {
   using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapCloser>;
 
   void Opened() override;
+  void Rescaled() override { LoadPictures(); }
   void Command(int control, int notification) override;
   INT_PTR Other(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -28,6 +28,13 @@ constexpr WPARAM BarInterval = 30;
 // Longer paths are shown by their ends: fitting one into the window takes a while.
 constexpr std::size_t LongestShown = 1000;
 
+/// A key that was down when the dialog came repeats itself: the Enter that chose the menu's entry
+/// would press Cancel.
+bool IsHeldSinceBefore(const MSG& message) {
+  return message.message == WM_KEYDOWN && (HIWORD(message.lParam) & KF_REPEAT) != 0 &&
+         (message.wParam == VK_RETURN || message.wParam == VK_SPACE || message.wParam == VK_ESCAPE);
+}
+
 }  // namespace
 
 ProgressDialog::ProgressDialog(HINSTANCE module, ProgressModel& model)
@@ -113,7 +120,7 @@ void ProgressDialog::RunMessages() {
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }
-    if (IsDialogMessageW(Window(), &message)) continue;
+    if (IsHeldSinceBefore(message) || IsDialogMessageW(Window(), &message)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

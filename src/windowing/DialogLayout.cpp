@@ -1,5 +1,7 @@
 #include "windowing/DialogLayout.h"
 
+#include <algorithm>
+
 namespace orvane::windowing {
 namespace {
 
@@ -24,19 +26,27 @@ void DialogLayout::Start(HWND dialog, std::span<const Anchor> anchors) {
   RECT window{};
   GetWindowRect(dialog, &window);
   m_window = {window.right - window.left, window.bottom - window.top};
-  for (const Anchor& anchor : anchors) {
-    const HWND control = GetDlgItem(dialog, anchor.control);
-    m_places.push_back({control, PlaceIn(dialog, control), anchor.edges});
+  for (HWND control = GetWindow(dialog, GW_CHILD); control;
+       control = GetWindow(control, GW_HWNDNEXT)) {
+    const auto anchor = std::ranges::find(anchors, GetDlgCtrlID(control), &Anchor::control);
+    const unsigned edges = anchor == anchors.end() ? 0 : anchor->edges;
+    m_places.push_back({control, PlaceIn(dialog, control), edges});
   }
+}
+
+void DialogLayout::Scale(int numerator, int denominator) {
+  m_numerator = numerator;
+  m_denominator = denominator;
 }
 
 void DialogLayout::Arrange() const {
   if (!m_dialog) return;
   const SIZE now = ClientSize(m_dialog);
-  const LONG wider = now.cx - m_client.cx;
-  const LONG taller = now.cy - m_client.cy;
+  const LONG wider = now.cx - Scaled(m_client.cx);
+  const LONG taller = now.cy - Scaled(m_client.cy);
   for (const Place& place : m_places) {
-    RECT rect = place.rect;
+    RECT rect{Scaled(place.rect.left), Scaled(place.rect.top), Scaled(place.rect.right),
+              Scaled(place.rect.bottom)};
     if (place.edges & Left) rect.left += wider;
     if (place.edges & Right) rect.right += wider;
     if (place.edges & Top) rect.top += taller;
@@ -48,7 +58,7 @@ void DialogLayout::Arrange() const {
 }
 
 void DialogLayout::Limit(MINMAXINFO& limits) const {
-  if (m_dialog) limits.ptMinTrackSize = m_window;
+  if (m_dialog) limits.ptMinTrackSize = {Scaled(m_window.x), Scaled(m_window.y)};
 }
 
 }  // namespace orvane::windowing

@@ -67,10 +67,14 @@ INT_PTR DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_INITDIALOG:
       m_layout.Start(m_window, m_anchors);
+      m_scale.Start(m_window);
       Opened();
       return TRUE;
     case WM_SIZE:
       m_layout.Arrange();
+      return TRUE;
+    case WM_DPICHANGED:
+      Rescale(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return TRUE;
     case WM_GETMINMAXINFO:
       m_layout.Limit(*reinterpret_cast<MINMAXINFO*>(lParam));
@@ -84,6 +88,16 @@ INT_PTR DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       return Other(message, wParam, lParam);
   }
+}
+
+void DialogWindow::Rescale(int dpi, const RECT& place) {
+  if (dpi <= 0) return;
+  m_scale.Change(dpi);
+  m_layout.Scale(dpi, m_scale.StartDpi());
+  Rescaled();
+  SetWindowPos(m_window, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  m_layout.Arrange();  // also when the size happens to be the same
 }
 
 }  // namespace orvane::windowing

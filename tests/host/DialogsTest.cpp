@@ -145,6 +145,41 @@ TEST_F(CopyToDialog, GrowsWithItsControlsAndDoesNotShrink) {
   }});
 }
 
+TEST_F(CopyToDialog, KeepsItsLayoutOnAScreenOfAnotherScaling) {
+  const auto placeOf = [](HWND dialog, int control) {
+    RECT rect{};
+    GetWindowRect(GetDlgItem(dialog, control), &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+  };
+  const auto fontHeight = [](HWND dialog) {
+    LOGFONTW font{};
+    const LRESULT used = SendDlgItemMessageW(dialog, IDC_DESTINATION, WM_GETFONT, 0, 0);
+    GetObjectW(reinterpret_cast<HFONT>(used), sizeof font, &font);
+    return font.lfHeight;
+  };
+  Show({[&](HWND dialog) {
+    RECT window{};
+    GetWindowRect(dialog, &window);
+    const RECT field = placeOf(dialog, IDC_DESTINATION), slot = placeOf(dialog, IDC_SLOT + 3);
+    const RECT label = placeOf(dialog, -1);
+    const LONG font = fontHeight(dialog);
+    for (const int dpi : {144, 192, 144}) {
+      SCOPED_TRACE(dpi);
+      RECT place{0, 0, MulDiv(window.right - window.left, dpi, 96),
+                 MulDiv(window.bottom - window.top, dpi, 96)};
+      SendMessageW(dialog, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+      EXPECT_EQ(fontHeight(dialog), MulDiv(font, dpi, 96));
+      EXPECT_EQ(placeOf(dialog, IDC_SLOT + 3).top, MulDiv(slot.top, dpi, 96));
+      EXPECT_EQ(placeOf(dialog, -1).right, MulDiv(label.right, dpi, 96)) << "what follows no edge";
+      EXPECT_NEAR(placeOf(dialog, IDC_DESTINATION).right, MulDiv(field.right, dpi, 96), 12)
+          << "but for the frame, which grows by itself";
+      EXPECT_LE(placeOf(dialog, IDCANCEL).right, place.right);
+    }
+    Click(dialog, IDCANCEL);
+  }});
+}
+
 class Walk : public ProgressModel {
  public:
   using Work = std::function<void(ProgressView&)>;
@@ -205,6 +240,20 @@ TEST(ProgressDialog, CancelAnswersWithinATenthOfASecond) {
     EXPECT_TRUE(walk.m_cancelled);
     EXPECT_LT(walk.m_cancelledAt - asked, 100u);
   }
+}
+
+TEST(ProgressDialog, TheHeldEnterThatChoseTheEntryDoesNotCancel) {
+  constexpr LPARAM Repeated = 1 << 30;
+  Walk walk([&](ProgressView& view) {
+    const HWND cancel = GetDlgItem(OpenDialog(), IDCANCEL);
+    for (const bool first : {false, true}) {
+      PostMessageW(cancel, WM_KEYDOWN, VK_RETURN, first ? 0 : Repeated);
+      Sleep(50);
+      view.ShowCount(1);
+      EXPECT_EQ(walk.m_cancelled, first) << "a key pressed anew cancels";
+    }
+  });
+  MakeDialogs().ShowProgress({}, walk);
 }
 
 TEST(ProgressDialog, TheEndOfItsOwnerCancels) {
