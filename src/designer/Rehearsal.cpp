@@ -47,6 +47,10 @@ class BriefView : public ProgressView {
   Clock::time_point m_start = Clock::now();
 };
 
+std::wstring Waiting(std::uint32_t milliseconds) {
+  return L"Waits " + std::to_wstring(milliseconds) + L" milliseconds.";
+}
+
 }  // namespace
 
 std::optional<std::vector<std::byte>> RehearsedFiles::Read(const std::wstring& path,
@@ -109,16 +113,23 @@ bool RehearsedClipboard::SetText(const std::wstring& text) {
 }
 
 void RehearsedClock::Pause(std::uint32_t milliseconds) {
-  m_script.push_back(L"Waits " + std::to_wstring(milliseconds) + L" milliseconds.");
+  m_script.push_back(Waiting(milliseconds));
 }
 
 void RehearsedKeyboard::Press(std::uint16_t virtualKey, bool up) {
-  if (virtualKey == LeftWindows && !up) m_script.push_back(L"Opens the Run dialog.");
+  if (virtualKey != LeftWindows || up) return;
+  m_script.push_back(L"Opens the Run dialog.");
+  ++m_front;
 }
 
-bool RehearsedKeyboard::Type(const std::wstring& text, const std::vector<KeyEvent>&) {
-  if (!text.empty()) m_script.push_back(L"Types the keys " + Quoted(text) + L'.');
+bool RehearsedKeyboard::Type(const std::vector<KeyText>& texts) {
+  for (const auto& [text, events] : texts)
+    m_script.push_back(L"Types the keys " + Quoted(text) + L'.');
   return true;
+}
+
+void RehearsedKeyboard::Pause(std::uint32_t milliseconds) {
+  m_script.push_back(Waiting(milliseconds));
 }
 
 std::int32_t RehearsedOperations::Run(WindowHandle, Function function, const FileNames& from,

@@ -127,10 +127,13 @@ class RehearsedKeyboard : public Keyboard {
 
   bool IsDown(std::uint16_t) override { return false; }
   void Press(std::uint16_t virtualKey, bool up) override;
-  bool Type(const std::wstring& text, const std::vector<KeyEvent>& events) override;
+  WindowHandle Front() override { return WindowHandle{m_front}; }
+  bool Type(const std::vector<KeyText>& texts) override;
+  void Pause(std::uint32_t milliseconds) override;
 
  private:
   Script& m_script;
+  std::uint32_t m_front = 1;  // another window once the Run dialog is open
 };
 
 class RehearsedOperations : public FileOperations {

@@ -40,11 +40,12 @@ bool IsControl(wchar_t character) {
 }
 
 /// Whether the script or template hands the token's text on.
-bool HasToken(std::wstring_view script, std::wstring_view token) {
-  clsCollection steps;
-  return ParseActionScript(script, steps).whole && steps.Count() > 0 &&
-         std::ranges::any_of(
-             steps, [&](const clsCollection::Node& step) { return step->m_szKey == token; });
+template <class Step>
+bool HasToken(std::wstring_view script) {
+  ActionSteps steps;
+  return ParseActionScript(script, steps).whole && std::ranges::any_of(steps, [](const auto& step) {
+           return std::holds_alternative<Step>(step);
+         });
 }
 
 /// The character at a place, which may be two units of UTF-16.
@@ -143,7 +144,7 @@ void CheckItem::CheckFilter(std::wstring_view text) {
 }
 
 void CheckItem::CheckTemplate(std::wstring_view text) {
-  clsCollection steps;
+  ActionSteps steps;
   const ScriptResult result = ParseActionScript(text, steps);
   if (!result.badNumber.empty())
     Warn("parameters", Quoted(result.badNumber) + " is no pause", "Use a number of milliseconds.");
@@ -154,15 +155,16 @@ void CheckItem::CheckTemplate(std::wstring_view text) {
 void CheckItem::CheckScript(std::wstring_view text) {
   constexpr std::string_view Field = "actions";
   if (text.empty()) return Warn(Field, "plays nothing", "Give the item a script.");
-  clsCollection steps;
+  ActionSteps steps;
   const ScriptResult result = ParseActionScript(text, steps);
   if (!result.badNumber.empty())
     return Warn(Field, "is not played: " + Quoted(result.badNumber) + " is no pause",
                 "Use a number of milliseconds.");
   if (!result.whole) return Warn(Field, "is not played: a token has no ]", "Close the token.");
-  for (const clsCollection::Node& step : steps) {
-    if (!step->m_szKey.empty()) continue;
-    const std::wstring literal = step->m_szData;
+  for (const ActionStep& step : steps) {
+    const auto* keys = std::get_if<LiteralStep>(&step);
+    if (!keys) continue;
+    const std::wstring& literal = keys->keys;
     if (LowerCase(literal).starts_with(L"[orv_"))
       Warn(Field, Quoted(literal) + " is no token and is typed as it stands",
            "Use [orv_item], [orv_date], [orv_pause] or [orv_selection], in small letters.");
@@ -225,8 +227,7 @@ void CheckItem::CheckTask(const clsOrvaneData& item) {
   if (!makesList && item.m_szSelection_Command.empty())
     Warn("", "does nothing", "Give it a command, a file or the option clipboard.");
   if ((item.m_lSelection_Options & TakesSeveral) == 0) return;
-  if (!item.m_szSelection_Command.empty() &&
-      HasToken(item.m_szSelection_Parms, ActionToken::Selection))
+  if (!item.m_szSelection_Command.empty() && HasToken<SelectionStep>(item.m_szSelection_Parms))
     CheckSeparation("commandSuffix", item.m_szSelection_CmdPrefix, item.m_szSelection_CmdSuffix);
   if (makesList)
     CheckSeparation("fileSuffix", item.m_szSelection_FilePrefix, item.m_szSelection_FileSuffix);
