@@ -153,11 +153,26 @@ class Session {
   }
 
   void Open(ContextMenuHandler& handler, MenuHandle menu, int depth) {
-    handler.IContextMenu3_HandleMenuMsg2(MenuMessage::InitMenuPopup, ToNumber(menu), 0, nullptr);
+    handler.Menu().Open(menu);
+    Paint(handler, menu);
     if (depth == 4) return;
     const std::vector<MenuEntry> entries = m_desktop.menus.Entries(menu);
     for (const MenuEntry& entry : entries)
       if (entry.submenu != MenuHandle::None) Open(handler, entry.submenu, depth + 1);
+  }
+
+  void Paint(ContextMenuHandler& handler, MenuHandle menu) {
+    Gdi& gdi = m_desktop.gdi;
+    const UniqueScreen screen(gdi, gdi.OpenScreen());
+    const UniqueContext context(gdi, gdi.CreateContext());
+    const UniqueBitmap bitmap(gdi, gdi.CreateCompatible(screen.get(), {60, 20}));
+    const Selected selected(gdi, context.get(), bitmap.get());
+    const std::vector<MenuEntry> entries = m_desktop.menus.Entries(menu);
+    for (const MenuEntry& entry : entries) {
+      const auto id = static_cast<std::int32_t>(entry.id);
+      handler.Menu().Measure(id);
+      handler.Menu().Draw({id, entry.id % 8, context.get(), {0, 0, 60, 20}});
+    }
   }
 
   void Verify(const HandlerState& state, MenuHandle menu) {
@@ -167,7 +182,7 @@ class Session {
       if (entry.caption.ends_with(L"able debugging")) continue;
       const auto id = static_cast<std::int32_t>(entry.id);
       if (id < state.ids.First() || (id >= m_bound && !m_unbounded)) std::abort();
-      if (!state.m_colMenuItems.ItemViaKey(id)) std::abort();
+      if (!state.commands.Find(id)) std::abort();
       if (!m_seen.insert(id).second && id != state.m_lEmptyCmdId) std::abort();
     }
   }

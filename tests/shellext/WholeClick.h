@@ -30,7 +30,7 @@ class WholeClick : public RightClick {
   void ClickOnNote() { Click(L"C:\\Work", {Note}); }
   void BeginOnNote() { Begin(L"C:\\Work", {Note}); }
 
-  /// Opens every submenu, asks for every entry's texts.
+  /// Opens and paints every submenu, asks for every entry's texts.
   void LookAround() {
     if (shellMenu != MenuHandle::None) Visit(shellMenu, 0);
     for (std::int32_t offset = -1; offset <= Offsets(); ++offset)
@@ -69,8 +69,23 @@ class WholeClick : public RightClick {
     Add(target);
   }
 
+  void Paint(MenuHandle menu) {
+    Gdi& gdi = desktop.gdi;
+    const UniqueScreen screen(gdi, gdi.OpenScreen());
+    const UniqueContext context(gdi, gdi.CreateContext());
+    const UniqueBitmap bitmap(gdi, gdi.CreateCompatible(screen.get(), {60, 20}));
+    const Selected selected(gdi, context.get(), bitmap.get());
+    const std::vector<MenuEntry> entries = desktop.menus.Entries(menu);
+    for (const MenuEntry& entry : entries) {
+      const auto id = static_cast<std::int32_t>(entry.id);
+      handler->Menu().Measure(id);
+      handler->Menu().Draw({id, 0, context.get(), {0, 0, 60, 20}});
+    }
+  }
+
   void Visit(MenuHandle menu, int depth) {
     handler->Menu().Open(menu);
+    Paint(menu);
     if (depth == 8) return;
     const std::vector<MenuEntry> entries = desktop.menus.Entries(menu);
     for (const MenuEntry& entry : entries)
