@@ -7,13 +7,13 @@
 
 #include "commands/BuiltInCommands.h"
 #include "commands/ClipboardInUse.h"
+#include "commands/CopyNames.h"
 #include "commands/CopyOrMove.h"
 #include "commands/FolderCommand.h"
 #include "commands/Opener.h"
 #include "commands/RecentItems.h"
 #include "commands/SelectionTask.h"
 #include "commands/Warning.h"
-#include "commands/frmClipboardProgress.h"
 #include "platform/Keyboard.h"
 #include "support/Number.h"
 #include "support/Text.h"
@@ -56,17 +56,6 @@ void PlayCustomAction(const Call& call, Data& item) {
   clsCustomActions action(call.context.actions);
   action.m_szActions = item.m_szAction_Actions;
   action.SendActions(L"");
-}
-
-void CopyNamesToClipboard(const Call& call) {
-  const Platform& platform = call.context.platform;
-  frmClipboardProgress form(platform.files, platform.clipboard);
-  form.m_pSelection = call.context.m_pDataObject.get();
-  form.m_bShortNames = call.bCtrlPressed;
-  if (call.bShiftPressed)
-    form.ShowModal(platform.dialogs, call.window);
-  else
-    form.BuildSelectionList(false);
 }
 
 void CopyOrMove(const Call& call, bool copy, const std::wstring& destination) {
@@ -200,7 +189,8 @@ std::int32_t ToHResult(const PendingError& error) {
 /// The one command whose failure the shell gets to know.
 std::int32_t CopyNames(const Call& call) {
   try {
-    CopyNamesToClipboard(call);
+    CopyNamesToClipboard(call.context.platform, call.window, call.context.m_pDataObject.get(),
+                         call.bCtrlPressed, call.bShiftPressed);
     return 0;
   } catch (const ClipboardInUse& error) {
     Warn(call.context.platform.boxes, error.Description());

@@ -34,17 +34,21 @@ constexpr Row Otherwise = {0, 75, L"Path/file access error"};
 
 constexpr std::uint32_t DiskFull = 112;
 
-/// Writes a new file whole, or leaves none. 0 or the error code.
-std::uint32_t WriteWhole(FileSystem& files, const std::wstring& path,
-                         std::span<const std::byte> bytes) {
+FileFailure FailureOf(const FileSystem& files, bool opened) {
+  const std::uint32_t code = files.LastError();
+  return {FileError(opened && code == 0 ? DiskFull : code), opened};
+}
+
+/// Writes the file whole, and removes a new one that it cannot.
+std::optional<FileFailure> Write(FileSystem& files, const std::wstring& path, bool isNew,
+                                 std::span<const std::byte> bytes) {
   std::unique_ptr<OutputFile> file = files.OpenToWrite(path, FileSystem::Open::CreateAnew);
-  if (!file) return files.LastError();
-  const bool written = file->Write(bytes);
-  const std::uint32_t failure = files.LastError();
+  if (!file) return FailureOf(files, false);
+  if (file->Write(bytes)) return std::nullopt;
+  FileFailure failure = FailureOf(files, true);
   file.reset();
-  if (written) return 0;
-  files.Remove(path);
-  return failure != 0 ? failure : DiskFull;
+  if (isNew) files.Remove(path);
+  return failure;
 }
 
 /// A name beside the file that nothing bears yet.
@@ -65,17 +69,17 @@ Error FileError(std::uint32_t code) {
   return Error(row.number, row.description, {}, code);
 }
 
-std::optional<Error> WriteSelectionFile(FileSystem& files, const std::wstring& path,
-                                        std::span<const std::byte> bytes) {
-  const bool replaces = files.Attributes(path).has_value();
-  const std::wstring written = replaces ? FreeName(files, path) : path;
-  std::uint32_t failure = WriteWhole(files, written, bytes);
-  if (failure == 0 && replaces && !files.Replace(written, path)) {
-    failure = files.LastError();
-    files.Remove(written);
+std::optional<FileFailure> WriteSelectionFile(FileSystem& files, const std::wstring& path,
+                                              std::span<const std::byte> bytes) {
+  if (!files.Attributes(path)) return Write(files, path, true, bytes);
+  const std::wstring beside = FreeName(files, path);
+  std::optional<FileFailure> failure = Write(files, beside, true, bytes);
+  if (failure && failure->opened) return failure;
+  if (!failure) {
+    if (files.Replace(beside, path)) return std::nullopt;
+    files.Remove(beside);
   }
-  if (failure == 0) return std::nullopt;
-  return FileError(failure);
+  return Write(files, path, false, bytes);
 }
 
 }  // namespace orvane

@@ -1,81 +1,51 @@
 #pragma once
 
-#include <cstddef>
 #include <exception>
-#include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
 
-#include "menudata/clsOrvaneData.h"
-#include "platform/Clipboard.h"
-#include "platform/DataObject.h"
-#include "platform/Dialogs.h"
-#include "platform/FileSystem.h"
-#include "support/FileFilter.h"
+#include "commands/SelectionWalk.h"
 
 namespace orvane {
 
-/// Turns the selection into text: for the clipboard, a line for each name, or for a selection task,
-/// the task's two lists. Works hidden, on the selected names alone, or behind the progress window,
-/// with everything inside selected folders. For one run.
-class frmClipboardProgress : public ProgressModel {
+/// The progress window of a walk over the selection, with its Cancel, and the same walk without a
+/// window. For one run.
+class frmClipboardProgress : private ProgressModel {
  public:
-  frmClipboardProgress(FileReader& files, Clipboard& clipboard)
-      : m_files(files), m_clipboard(clipboard) {}
+  /// What the progress area is headed with.
+  static constexpr const wchar_t* CopyCaption = L"Copy to Clipboard Progress";
+  static constexpr const wchar_t* TaskCaption = L"Selection Task Progress";
 
-  bool m_bStop = false;  // the user has cancelled
-  DataObject* m_pSelection = nullptr;
-  bool m_bShortNames = false;
-  const clsOrvaneData* m_Data = nullptr;  // null: for the clipboard, otherwise the selection task
-  std::wstring m_szCmdLine;
-  std::wstring m_szFile;
+  /// All are kept. No selection (null) is one without names.
+  frmClipboardProgress(FileReader& files, DataObject* selection, NameList& list, bool shortNames,
+                       const wchar_t* caption)
+      : m_pSelection(selection), m_walk(files, list, shortNames), m_caption(caption) {}
 
-  /// Error when the selection cannot be read or, in clipboard mode, the clipboard cannot be had.
-  void BuildSelectionList(bool bRecursive);
+  /// With `bRecursive` everything inside selected folders too. Error when the selection cannot be
+  /// read.
+  void BuildSelectionList(bool bRecursive) { Build(bRecursive, nullptr); }
 
   /// Shows the window, which builds the list with everything inside selected folders and closes.
-  /// Fails as BuildSelectionList does.
+  /// Fails as BuildSelectionList does, which it is where there can be no window.
   void ShowModal(Dialogs& dialogs, WindowHandle owner);
 
-  std::wstring Title() override;
-  std::wstring Caption() override;
-  void Run(ProgressView& view) noexcept override;
-  void Cancel() override { m_bStop = true; }
+  bool IsCancelled() const { return m_walk.IsCancelled(); }
+  /// False when the list lacks something; the user should know before anybody relies on it.
+  bool IsWhole() const { return m_walk.IsWhole(); }
+  static constexpr const wchar_t* NotWhole =
+      L"Some folders did not answer or could not be read to their end, so the list of names is not "
+      L"complete.";
 
  private:
-  /// A name as it is written: a folder's path, empty or with a backslash at its end, and what
-  /// follows it. In two pieces, because a large tree is mostly a matter of copying its names.
-  struct Written {
-    std::wstring_view folder;
-    std::wstring_view name;
+  std::wstring Title() override;
+  std::wstring Caption() override { return m_caption; }
+  void Run(ProgressView& view) noexcept override;
+  void Cancel() override { m_walk.Cancel(); }
 
-    bool Has(wchar_t character) const {
-      return folder.find(character) != std::wstring_view::npos ||
-             name.find(character) != std::wstring_view::npos;
-    }
-  };
+  void Build(bool recursive, ProgressView* view);
 
-  void BuildLists(const FileNames& names, bool recursive);
-  void Reserve(const FileNames& names);
-  /// Lists everything under the folder, each folder before its contents, in the file system's
-  /// order.
-  void BuildSelectionList_(const std::wstring& szDir);
-  bool Filters() const { return m_filter && !m_filter->IsEmpty(); }
-  /// `found` is what a filter looks at: the name in one piece.
-  void Add(const Written& written, std::wstring_view found, bool isFolder);
-  void ProcessFilename(const Written& written, std::wstring_view found, bool isFolder);
-  /// Turns a name into the form that is written.
-  void GetName(std::wstring& szName) const;
-  void SetFolder(const std::wstring& szFolder);
-
-  FileReader& m_files;
-  Clipboard& m_clipboard;
-  ProgressView* m_view = nullptr;  // null while it works hidden
-  std::optional<FileFilter> m_filter;
-  std::wstring m_lines;  // for the clipboard
-  std::size_t m_count = 0;
-  Patience m_patience = Patience::Endless;
+  DataObject* m_pSelection;
+  SelectionWalk m_walk;
+  const wchar_t* m_caption;
   std::exception_ptr m_failure;  // of the run behind the window
 };
 

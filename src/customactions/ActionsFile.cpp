@@ -12,7 +12,7 @@ namespace {
 /// right-clicked: whoever can put a file there would have his keystrokes typed.
 std::vector<std::byte> Bytes(FileReader& files, const std::wstring& path) {
   if (!IsFullPath(path)) return {};
-  auto bytes = files.Read(path, ActionsFile::MaxSize);
+  auto bytes = files.Read(path, ActionsFile::MaxSize, Patience::Menu);
   return bytes ? std::move(*bytes) : std::vector<std::byte>();
 }
 

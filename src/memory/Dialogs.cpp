@@ -54,7 +54,8 @@ class Dialogs::Progress : public ProgressView {
   ProgressModel& m_model;
 };
 
-void Dialogs::ShowProgress(WindowHandle, ProgressModel& model) {
+bool Dialogs::ShowProgress(WindowHandle, ProgressModel& model) {
+  if (m_faults.Hit()) return false;
   shownTitles.push_back(model.Title());
   const std::wstring* next = m_answers.Peek();
   if (next && *next == L"cancel") {
@@ -63,6 +64,7 @@ void Dialogs::ShowProgress(WindowHandle, ProgressModel& model) {
   }
   Progress progress(*this, model);
   model.Run(progress);
+  return true;
 }
 
 class Dialogs::BrowseRecord : public BrowseWindow {

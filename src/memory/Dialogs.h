@@ -19,7 +19,7 @@ class Dialogs : public orvane::Dialogs {
       : m_shell(shell), m_faults(faults), m_answers(answers) {}
 
   bool ShowCopyTo(WindowHandle owner, CopyToModel& model) override;
-  void ShowProgress(WindowHandle owner, ProgressModel& model) override;
+  bool ShowProgress(WindowHandle owner, ProgressModel& model) override;
   Picked Browse(WindowHandle owner, const ItemIdList& root, const std::wstring& title,
                 std::uint32_t flags, BrowseModel& model) override;
 

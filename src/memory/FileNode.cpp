@@ -6,7 +6,6 @@
 #include <optional>
 #include <utility>
 
-#include "platform/FileSystem.h"
 #include "support/Text.h"
 #include "support/Utf8.h"
 
@@ -56,8 +55,10 @@ std::unique_ptr<FileNode> MakeHostNode(const fs::directory_entry& entry) {
   if (!name) return nullptr;
   std::uint32_t attributes =
       fs::is_directory(status) ? FileAttribute::Directory : FileAttribute::Archive;
-  if (entry.is_symlink(error)) attributes |= FileAttribute::ReparsePoint;
+  const bool isLink = entry.is_symlink(error);
+  if (isLink) attributes |= FileAttribute::ReparsePoint;
   auto node = std::make_unique<FileNode>(*name, attributes);
+  node->isLink = isLink;
   node->SetHost(entry.path());
   return node;
 }
@@ -72,6 +73,7 @@ bool FileNode::IsFolder() const {
 }
 
 void FileNode::SetHost(fs::path host) {
+  m_origin = host;
   m_host = std::move(host);
 }
 
@@ -119,6 +121,12 @@ std::uintmax_t FileNode::Size() const {
 void FileNode::SetContent(std::vector<std::byte> content) {
   m_content = std::move(content);
   m_host.clear();
+}
+
+FileIdentity FileNode::Identity() const {
+  if (m_origin.empty()) return {0, reinterpret_cast<std::uintptr_t>(this)};
+  std::error_code error;
+  return {1, fs::hash_value(fs::canonical(m_origin, error))};
 }
 
 void FileNode::LoadDirectory() {

@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/FileSystem.h"
+
 namespace orvane::memory {
 
 /// A file or folder of the memory file system. One that comes from a mounted directory reads its
@@ -21,6 +23,8 @@ class FileNode {
   const std::wstring& ShortName() const { return m_shortName; }
 
   std::uint32_t attributes;
+  bool isLink = false;
+  std::wstring target;  // of a link to a path; a host's link follows itself
   bool openForWriting = false;
 
   /// Lets the node stand for a file or directory of the host.
@@ -40,6 +44,8 @@ class FileNode {
   void SetContent(std::vector<std::byte> content);
   std::uintmax_t Size() const;
 
+  FileIdentity Identity() const;
+
  private:
   void LoadDirectory();
   bool LoadContent();
@@ -47,7 +53,8 @@ class FileNode {
 
   std::wstring m_name;
   std::wstring m_shortName;
-  std::filesystem::path m_host;  // empty once loaded
+  std::filesystem::path m_host;    // empty once loaded
+  std::filesystem::path m_origin;  // the same for ever
   std::vector<std::byte> m_content;
   std::vector<std::unique_ptr<FileNode>> m_children;
   std::unordered_map<std::wstring, FileNode*> m_index;        // by lower-cased name

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <new>
-#include <stdexcept>
 #include <utility>
 
 #include "memory/Windows1252.h"
+#include "support/FullPath.h"
 #include "support/Text.h"
 
 namespace orvane::memory {
@@ -18,45 +18,29 @@ constexpr std::uint32_t PathNotFound = 3;
 constexpr std::uint32_t AccessDenied = 5;
 constexpr std::uint32_t SharingViolation = 32;
 constexpr std::uint32_t DiskFull = 112;
-constexpr std::uint32_t SemaphoreTimeout = 121;
 constexpr std::uint32_t FileTooLarge = 223;
 constexpr std::uint32_t NotADirectory = 267;
-constexpr std::uint32_t IoFailure = 1117;  // for a call that a test fails
 
 class Listing : public DirectoryListing {
  public:
-  Listing(std::vector<FoundFile> found, Faults& faults)
-      : m_found(std::move(found)), m_faults(faults) {}
+  Listing(std::vector<FoundFile> found, bool breaksOff, Faults& faults)
+      : m_found(std::move(found)), m_breaksOff(breaksOff), m_faults(faults) {}
 
   bool Next(FoundFile& found) override {
-    if (m_faults.Hit() || m_next == m_found.size()) return false;
+    if (m_faults.Hit() || (m_breaksOff && m_next == 1)) m_isWhole = false;
+    if (!m_isWhole || m_next == m_found.size()) return false;
     found = std::move(m_found[m_next++]);
     return true;
   }
+  bool IsWhole() const override { return m_isWhole; }
 
  private:
   std::vector<FoundFile> m_found;
+  bool m_breaksOff;
+  bool m_isWhole = true;
   std::size_t m_next = 0;
   Faults& m_faults;
 };
-
-std::vector<std::wstring> LowerCaseAll(std::vector<std::wstring> names) {
-  for (std::wstring& name : names) name = LowerCase(name);
-  return names;
-}
-
-std::wstring Joined(const std::vector<std::wstring>& names) {
-  std::wstring path;
-  for (const std::wstring& name : names) path += (path.empty() ? L"" : L"\\") + name;
-  return names.size() == 1 && path.ends_with(L':') ? path + L"\\" : path;
-}
-
-/// Cuts the prefix that allows long paths off: "\\?\C:\a" and "\\?\UNC\server\share".
-std::wstring WithoutLongPrefix(std::wstring path) {
-  if (path.starts_with(L"\\\\?\\UNC\\")) return L"\\\\" + path.substr(8);
-  if (path.starts_with(L"\\\\?\\")) return path.substr(4);
-  return path;
-}
 
 }  // namespace
 
@@ -100,10 +84,10 @@ FileSystem::FileSystem(Clock& clock, Effects& effects, Faults& faults)
   AddFolder(m_working);
 }
 
-std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path,
-                                                       std::size_t limit) {
+std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path, std::size_t limit,
+                                                       const Patience& patience) {
   const Names names = Split(path);
-  if (!Enter(names)) return std::nullopt;
+  if (!Enter(names, patience)) return std::nullopt;
   FileNode* node = FindOrFail(names);
   if (!node) return std::nullopt;
   if (node->IsFolder() || In(Trouble::Unreadable, names)) return Fail(AccessDenied), std::nullopt;
@@ -123,22 +107,34 @@ std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
   return node->attributes;
 }
 
+std::optional<FileIdentity> FileSystem::Identity(const std::wstring& path,
+                                                 const Patience& patience) {
+  const Names names = Split(path);
+  if (!Enter(names, patience)) return std::nullopt;
+  const FileNode* node = Follow(FindOrFail(names));
+  if (!node) return std::nullopt;
+  return node->Identity();
+}
+
 std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
                                                    const Patience& patience) {
   const Names names = Split(folder);
   if (!Enter(names, patience)) return nullptr;
-  FileNode* node = FindOrFail(names);
+  FileNode* node = Follow(FindOrFail(names));
   if (!node) return nullptr;
   if (!node->IsFolder()) return Fail(NotADirectory), nullptr;
   if (In(Trouble::Unreadable, names)) return Fail(AccessDenied), nullptr;
   std::vector<FoundFile> found;
   found.reserve(node->Children().size());
-  for (const auto& child : node->Children()) found.push_back({child->Name(), child->attributes});
-  return std::make_unique<Listing>(std::move(found), m_faults);
+  for (const auto& child : node->Children())
+    found.push_back({child->Name(), child->attributes, child->isLink});
+  return std::make_unique<Listing>(std::move(found), In(Trouble::BreaksOff, names), m_faults);
 }
 
 bool FileSystem::LiesOnNetwork(const std::wstring& path) {
-  return path.starts_with(L"\\\\") || StallOf(Split(path)) != 0;
+  const Names names = Split(path);
+  return !names.empty() &&
+         (names.front().starts_with(L"\\\\") || m_networkDrives.contains(LowerCase(names.front())));
 }
 
 std::wstring FileSystem::ShortName(const std::wstring& path, const Patience& patience) {
@@ -170,6 +166,7 @@ bool FileSystem::Remove(const std::wstring& path) {
   if (!Enter(names)) return false;
   FileNode* node = FindToChange(names);
   if (!node) return false;
+  if (In(Trouble::Fixed, names)) return Fail(AccessDenied), false;
   FindParent(names)->Take(*node);
   m_effects.Add(Effect("DeleteFile").With("path", Joined(names)));
   return true;
@@ -182,7 +179,7 @@ bool FileSystem::Replace(const std::wstring& from, const std::wstring& to) {
   if (!node) return false;
   FileNode* folder = FindParent(target);
   if (!folder || !folder->IsFolder()) return Fail(PathNotFound), false;
-  if (In(Trouble::ReadOnly, target)) return Fail(AccessDenied), false;
+  if (In(Trouble::ReadOnly, target) || In(Trouble::Fixed, target)) return Fail(AccessDenied), false;
   FileNode* old = folder->Find(target.back());
   if (old && old != node && !FindToChange(target)) return false;
   if (old && old != node) folder->Take(*old);
@@ -201,52 +198,6 @@ bool FileSystem::ChangeDirectory(const std::wstring& folder) {
   if (!node->IsFolder()) return Fail(NotADirectory), false;
   m_working = Joined(names);
   return true;
-}
-
-FileNode& FileSystem::AddFolder(const std::wstring& path) {
-  FileNode* node = &m_roots;
-  for (const std::wstring& name : Split(path)) {
-    FileNode* child = node->Find(name);
-    if (!child) child = &node->Add(std::make_unique<FileNode>(name, FileAttribute::Directory));
-    node = child;
-  }
-  return *node;
-}
-
-FileNode& FileSystem::AddFile(const std::wstring& path, std::string_view content,
-                              std::uint32_t attributes) {
-  Names names = Split(path);
-  if (names.size() < 2) throw std::invalid_argument("no file can have the name of a drive");
-  const std::wstring name = names.back();
-  names.pop_back();
-  FileNode& folder = AddFolder(Joined(names));
-  FileNode* file = folder.Find(name);
-  if (!file) file = &folder.Add(std::make_unique<FileNode>(name, attributes));
-  const auto* first = reinterpret_cast<const std::byte*>(content.data());
-  file->SetContent({first, first + content.size()});
-  file->attributes = attributes;
-  return *file;
-}
-
-std::optional<std::string> FileSystem::Content(const std::wstring& path) {
-  FileNode* node = Find(Split(path));
-  if (!node || node->IsFolder() || !node->Content()) return std::nullopt;
-  const std::vector<std::byte>& bytes = *node->Content();
-  return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-}
-
-void FileSystem::Mount(const std::wstring& root, const std::filesystem::path& directory) {
-  const std::wstring name = Split(root).front();
-  if (FileNode* old = m_roots.Find(name)) m_roots.Take(*old);
-  m_roots.Add(std::make_unique<FileNode>(name, FileAttribute::Directory)).SetHost(directory);
-}
-
-void FileSystem::Add(Trouble trouble, const std::wstring& path) {
-  m_troubles[LowerCaseAll(Split(path))].push_back(trouble);
-}
-
-void FileSystem::Stall(const std::wstring& folder, std::uint32_t milliseconds) {
-  m_stalls[LowerCaseAll(Split(folder))] = milliseconds;
 }
 
 FileSystem::Names FileSystem::Split(const std::wstring& path) const {
@@ -280,13 +231,21 @@ FileSystem::Names FileSystem::Split(const std::wstring& path) const {
   return names;
 }
 
-FileNode* FileSystem::Find(const Names& names) {
+FileNode* FileSystem::Find(const Names& names, int links) {
   FileNode* node = names.empty() ? nullptr : &m_roots;
   for (const std::wstring& name : names) {
+    node = Follow(node, links);
     if (!node || !node->IsFolder()) return nullptr;
     node = node->Find(name);
   }
   return node;
+}
+
+/// What a link leads to; null when it leads nowhere, or round in a circle.
+FileNode* FileSystem::Follow(FileNode* node, int links) {
+  constexpr int MaxLinks = 16;
+  if (!node || node->target.empty()) return node;
+  return links == MaxLinks ? nullptr : Follow(Find(Split(node->target), links + 1), links + 1);
 }
 
 FileNode* FileSystem::FindOrFail(const Names& names) {
@@ -317,40 +276,9 @@ FileNode* FileSystem::FindOrCreate(const Names& names, const std::wstring& path)
   if (FileNode* node = Find(names)) return FindToChange(names) ? node : nullptr;
   FileNode* folder = FindParent(names);
   if (!folder || !folder->IsFolder()) return Fail(PathNotFound), nullptr;
-  if (In(Trouble::ReadOnly, names)) return Fail(AccessDenied), nullptr;
+  if (In(Trouble::ReadOnly, names) || In(Trouble::Fixed, names)) return Fail(AccessDenied), nullptr;
   if (path.ends_with(L'\\')) return Fail(PathNotFound), nullptr;
   return &folder->Add(std::make_unique<FileNode>(names.back(), FileAttribute::Archive));
-}
-
-bool FileSystem::In(Trouble trouble, const Names& names) const {
-  if (m_troubles.empty()) return false;
-  for (Names above = LowerCaseAll(names); !above.empty(); above.pop_back()) {
-    const auto found = m_troubles.find(above);
-    if (found != m_troubles.end() && std::ranges::count(found->second, trouble) != 0) return true;
-  }
-  return false;
-}
-
-std::uint32_t FileSystem::StallOf(const Names& names) const {
-  if (m_stalls.empty()) return 0;
-  for (Names above = LowerCaseAll(names); !above.empty(); above.pop_back()) {
-    const auto found = m_stalls.find(above);
-    if (found != m_stalls.end()) return found->second;
-  }
-  return 0;
-}
-
-/// Where every call begins: waits for a silent network, and fails when a test says so.
-bool FileSystem::Enter(const Names& names, const Patience& patience) {
-  const std::uint32_t wait = StallOf(names);
-  const std::uint32_t end = std::min(wait, patience.milliseconds);
-  for (std::uint32_t waited = 0; waited < end; waited += Patience::Slice) {
-    if (patience.Ends()) return Fail(SemaphoreTimeout), false;
-    m_clock.Advance(std::min(Patience::Slice, end - waited));
-  }
-  if (m_faults.Hit()) return Fail(IoFailure), false;
-  if (wait > end) return patience.milliseconds = 0, Fail(SemaphoreTimeout), false;
-  return true;
 }
 
 void FileSystem::Written(const std::wstring& path, std::wstring text) {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <map>
 #include <optional>
+#include <set>
 #include <string_view>
 
 #include "memory/Clock.h"
@@ -28,10 +29,12 @@ class FileSystem : public orvane::FileSystem {
  public:
   FileSystem(Clock& clock, Effects& effects, Faults& faults);
 
-  std::optional<std::vector<std::byte>> Read(const std::wstring& path,
-                                             std::size_t limit = 256u << 20) override;
+  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit = MaxSize,
+                                             const Patience& patience = Patience::Endless) override;
   std::optional<std::uint32_t> Attributes(const std::wstring& path,
                                           const Patience& patience = Patience::Endless) override;
+  std::optional<FileIdentity> Identity(const std::wstring& path,
+                                       const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                          const Patience& patience) override;
   std::wstring ShortName(const std::wstring& path,
@@ -48,6 +51,8 @@ class FileSystem : public orvane::FileSystem {
   FileNode& AddFolder(const std::wstring& path);
   FileNode& AddFile(const std::wstring& path, std::string_view content = {},
                     std::uint32_t attributes = FileAttribute::Archive);
+  /// A link, or mount point, that leads to the target.
+  FileNode& AddLink(const std::wstring& path, const std::wstring& target);
   /// The file's bytes as they stand; none without such a file. Not a call that can be failed.
   std::optional<std::string> Content(const std::wstring& path);
   bool Exists(const std::wstring& path) { return Find(Split(path)) != nullptr; }
@@ -60,24 +65,35 @@ class FileSystem : public orvane::FileSystem {
     Unreadable,  // no access, for reading and listing
     ReadOnly,    // no access, for writing
     Full,        // opens, but takes no byte
+    Fixed,       // nothing is made, moved or removed; what is there can be written
+    BreaksOff,   // a listing ends after its first entry
   };
   /// From now on everything at and below the path, there or not, is in trouble.
   void Add(Trouble trouble, const std::wstring& path);
-  /// The folder is on a network and does not answer for so long; the clock moves on by the wait.
+  /// The folder is on a network, as its whole drive then is, and does not answer for so long; the
+  /// clock moves on by the wait.
   void Stall(const std::wstring& folder, std::uint32_t milliseconds);
 
  private:
   class Output;
   using Names = std::vector<std::wstring>;  // "C:" or "\\server\share" first
 
+  static Names LowerCaseAll(Names names);
+  static std::wstring Joined(const Names& names);
   Names Split(const std::wstring& path) const;
-  FileNode* Find(const Names& names);
+  FileNode* Find(const Names& names, int links = 0);
+  FileNode* Follow(FileNode* node, int links = 0);
   FileNode* FindOrFail(const Names& names);
   FileNode* FindParent(Names names);
   FileNode* FindToChange(const Names& names);
   bool In(Trouble trouble, const Names& names) const;
   std::uint32_t StallOf(const Names& names) const;
   bool Enter(const Names& names, const Patience& patience = Patience::Endless);
+  bool Wait(std::uint32_t time, const std::wstring& server, const Patience& patience);
+  // Windows error codes that stand for a trouble of the whole call.
+  static constexpr std::uint32_t SemaphoreTimeout = 121;
+  static constexpr std::uint32_t IoFailure = 1117;  // for a call that a test fails
+
   void Fail(std::uint32_t error) { m_lastError = error; }
   FileNode* FindOrCreate(const Names& names, const std::wstring& path);
   void Written(const std::wstring& path, std::wstring text);
@@ -90,6 +106,7 @@ class FileSystem : public orvane::FileSystem {
   std::wstring m_working = L"C:\\Windows\\System32";
   std::map<Names, std::vector<Trouble>> m_troubles;  // by lower-cased names
   std::map<Names, std::uint32_t> m_stalls;
+  std::set<std::wstring> m_networkDrives;  // lower-cased, as "z:"
   std::uint32_t m_lastError = 0;
 };
 

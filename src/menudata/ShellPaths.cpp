@@ -68,8 +68,7 @@ namespace {
 /// Waits for a share a moment only. A drive's kind is not asked for, which takes longer than asking
 /// a local file itself.
 Patience MenuPatience(const std::wstring& path) {
-  constexpr std::uint32_t Moment = 1000;  // milliseconds
-  return path.starts_with(L"\\\\") ? Moment : Patience::Endless;
+  return path.starts_with(L"\\\\") ? Patience::Menu : Patience::Endless;
 }
 
 }  // namespace

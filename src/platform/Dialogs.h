@@ -102,9 +102,9 @@ class Dialogs {
   /// be shown.
   virtual bool ShowCopyTo(WindowHandle owner, CopyToModel& model) = 0;
 
-  /// Shows the window, runs the model's work once and closes the window. Runs the work without a
-  /// window when it cannot be shown.
-  virtual void ShowProgress(WindowHandle owner, ProgressModel& model) = 0;
+  /// Shows the window, runs the model's work once and closes the window. False when it cannot be
+  /// shown; the work has then not begun.
+  virtual bool ShowProgress(WindowHandle owner, ProgressModel& model) = 0;
 
   /// The shell's browse dialog (SHBrowseForFolder) from `root` down, with its BIF_* flags.
   virtual Picked Browse(WindowHandle owner, const ItemIdList& root, const std::wstring& title,

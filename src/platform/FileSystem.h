@@ -2,13 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
-#include <utility>
 #include <vector>
+
+#include "platform/Patience.h"
 
 namespace orvane {
 
@@ -21,27 +21,23 @@ struct FileAttribute {
   static constexpr std::uint32_t Archive = 0x20;
   static constexpr std::uint32_t Normal = 0x80;
   static constexpr std::uint32_t ReparsePoint = 0x400;
+  static constexpr std::uint32_t Offline = 0x1000;
+  static constexpr std::uint32_t RecallOnOpen = 0x40000;
+  static constexpr std::uint32_t RecallOnDataAccess = 0x400000;
 };
 
 struct FoundFile {
   std::wstring name;
   std::uint32_t attributes = 0;
+  bool isLink = false;  // it stands for another place: a link or a mount point
 };
 
-/// How long a call that hangs on a network may keep its caller waiting.
-/// One that a call has used up is used up for every further call: what kept its caller waiting once
-/// is not asked again.
-struct Patience {
-  static constexpr std::uint32_t Endless = 0xFFFF'FFFF;
-  static constexpr std::uint32_t Slice = 50;  // milliseconds from one question to the next
+/// What tells two files or folders apart, whatever their names.
+struct FileIdentity {
+  std::uint64_t volume = 0;
+  std::uint64_t file = 0;
 
-  Patience(std::uint32_t milliseconds, std::function<bool()> goOn = {})
-      : milliseconds(milliseconds), goOn(std::move(goOn)) {}
-
-  bool Ends() const { return goOn && !goOn(); }
-
-  mutable std::uint32_t milliseconds;
-  std::function<bool()> goOn;  // asked meanwhile; false ends the wait, as a user's Cancel does
+  bool operator==(const FileIdentity&) const = default;
 };
 
 /// A walk over one folder, in the order the file system gives; closed with the object.
@@ -51,6 +47,9 @@ class DirectoryListing {
 
   /// The next entry, without "." and ".."; false at the end (`found` then untouched).
   virtual bool Next(FoundFile& found) = 0;
+
+  /// After the end: false when the walk broke off before everything was found.
+  virtual bool IsWhole() const = 0;
 };
 
 /// A file open for writing, shared with nobody; closed with the object.
@@ -63,29 +62,34 @@ class OutputFile {
 };
 
 /// The part of the file system that a reader needs. Paths are Windows paths of any length ("\"
-/// between names); names are compared without regard to case.
+/// between names); names are compared without regard to case. A call on a network that does not
+/// answer before the patience ends comes back as a failed one.
 class FileReader {
  public:
   virtual ~FileReader() = default;
 
+  static constexpr std::size_t MaxSize = 256u << 20;
+
   /// The whole file, read with one read; none when it cannot be opened or read, or is longer than
   /// `limit` bytes.
-  virtual std::optional<std::vector<std::byte>> Read(const std::wstring& path,
-                                                     std::size_t limit = 256u << 20) = 0;
+  virtual std::optional<std::vector<std::byte>> Read(
+      const std::wstring& path, std::size_t limit = MaxSize,
+      const Patience& patience = Patience::Endless) = 0;
 
-  /// FileAttribute bits of a file or folder; none when there is no such thing, or when it lies on a
-  /// network that does not answer before the patience ends.
+  /// FileAttribute bits of a file or folder; none when there is no such thing.
   virtual std::optional<std::uint32_t> Attributes(const std::wstring& path,
                                                   const Patience& patience = Patience::Endless) = 0;
 
-  /// Opens a walk over the folder; null when it is no folder or cannot be listed. A folder on a
-  /// network that does not answer is given up when the patience ends: the caller's menu must not
-  /// hang with it.
+  /// The identity of what a path leads to, links followed; none when there is no such thing.
+  virtual std::optional<FileIdentity> Identity(const std::wstring& path,
+                                               const Patience& patience = Patience::Endless) = 0;
+
+  /// Opens a walk over the folder; null when it is no folder or cannot be listed. The patience,
+  /// which outlives the walk, is also that of its steps.
   virtual std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                                  const Patience& patience) = 0;
 
-  /// The path in its short (8.3) form; empty when there is none, or when it lies on a network that
-  /// does not answer before the patience ends.
+  /// The path in its short (8.3) form; empty when there is none.
   virtual std::wstring ShortName(const std::wstring& path,
                                  const Patience& patience = Patience::Endless) = 0;
 

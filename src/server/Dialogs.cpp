@@ -10,9 +10,8 @@ bool Dialogs::ShowCopyTo(WindowHandle owner, CopyToModel& model) {
   return CopyToDialog(m_module, model).Ask(win32::ToNative<HWND>(owner));
 }
 
-void Dialogs::ShowProgress(WindowHandle owner, ProgressModel& model) {
-  if (!ProgressDialog(m_module, model).Run(win32::ToNative<HWND>(owner)))
-    win32::Dialogs::ShowProgress(owner, model);
+bool Dialogs::ShowProgress(WindowHandle owner, ProgressModel& model) {
+  return ProgressDialog(m_module, model).Run(win32::ToNative<HWND>(owner));
 }
 
 }  // namespace orvane::server

@@ -13,7 +13,7 @@ class Dialogs : public win32::Dialogs {
   explicit Dialogs(HINSTANCE module) : m_module(module) {}
 
   bool ShowCopyTo(WindowHandle owner, CopyToModel& model) override;
-  void ShowProgress(WindowHandle owner, ProgressModel& model) override;
+  bool ShowProgress(WindowHandle owner, ProgressModel& model) override;
 
  private:
   HINSTANCE m_module;

@@ -40,7 +40,8 @@ const ItemKind* FindKind(std::int32_t type) {
 }  // namespace
 
 bool DefinitionMenu::Read() {
-  auto bytes = m_globals.platform.files.Read(m_globals.g_Options.m_szShellConfigFile);
+  auto bytes = m_globals.platform.files.Read(m_globals.g_Options.m_szShellConfigFile,
+                                             FileReader::MaxSize, Patience::Menu);
   if (!bytes || bytes->empty()) return true;
   DefinitionFile file(std::move(*bytes), m_globals.codePage);
   return ReadFile(file);

@@ -68,7 +68,8 @@ void DynamicFolders::Fill(const DynamicMenus::Entry& entry) {
 void DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
   std::wstring path = folder.Location();
   if (!path.ends_with(L'\\')) path += L'\\';
-  const auto listing = m_globals.platform.files.List(path, NetworkPatience);
+  const Patience patience = Patience::Menu;
+  const auto listing = m_globals.platform.files.List(path, patience);
   if (!listing) return;
 
   const FileFilter filter(folder.m_szDFolder_Filter);

@@ -43,21 +43,14 @@ int CALLBACK OnBrowse(HWND dialog, UINT message, LPARAM parameter, LPARAM data) 
   return 0;  // the dialog goes on without what failed
 }
 
-class NoView : public ProgressView {
- public:
-  void ShowFolder(const std::wstring&) override {}
-  void ShowCount(std::size_t) override {}
-};
-
 }  // namespace
 
 bool Dialogs::ShowCopyTo(WindowHandle, CopyToModel&) {
   return false;
 }
 
-void Dialogs::ShowProgress(WindowHandle, ProgressModel& model) {
-  NoView view;
-  model.Run(view);
+bool Dialogs::ShowProgress(WindowHandle, ProgressModel&) {
+  return false;
 }
 
 Dialogs::Picked Dialogs::Browse(WindowHandle owner, const ItemIdList& root,

@@ -9,7 +9,7 @@ namespace orvane::win32 {
 class Dialogs : public orvane::Dialogs {
  public:
   bool ShowCopyTo(WindowHandle owner, CopyToModel& model) override;
-  void ShowProgress(WindowHandle owner, ProgressModel& model) override;
+  bool ShowProgress(WindowHandle owner, ProgressModel& model) override;
   Picked Browse(WindowHandle owner, const ItemIdList& root, const std::wstring& title,
                 std::uint32_t flags, BrowseModel& model) override;
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "win32/FolderWalk.h"
 #include "win32/GrowingText.h"
 #include "win32/NativePath.h"
 #include "win32/Patience.h"
@@ -14,50 +15,6 @@ namespace orvane::win32 {
 namespace {
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-/// A walk that has made its first step, which is the one that opens the folder.
-struct Walk {
-  UniqueFindHandle handle;
-  WIN32_FIND_DATAW data{};
-  DWORD error = ERROR_SUCCESS;
-};
-
-Walk StartWalk(const std::wstring& pattern) {
-  Walk walk;
-  walk.handle = TakeHandle<UniqueFindHandle>(FindFirstFileExW(pattern.c_str(), FindExInfoBasic,
-                                                              &walk.data, FindExSearchNameMatch,
-                                                              nullptr, FIND_FIRST_EX_LARGE_FETCH));
-  if (!walk.handle) walk.error = GetLastError();
-  return walk;
-}
-
-bool IsDots(const wchar_t* name) {
-  return name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'));
-}
-
-class Listing : public DirectoryListing {
- public:
-  explicit Listing(Walk walk) : m_walk(std::move(walk)), m_waiting(m_walk.handle) {}
-
-  bool Next(FoundFile& found) override {
-    while (Step()) {
-      if (IsDots(m_walk.data.cFileName)) continue;
-      found.name = m_walk.data.cFileName;
-      found.attributes = m_walk.data.dwFileAttributes;
-      return true;
-    }
-    return false;
-  }
-
- private:
-  bool Step() {
-    if (m_waiting) return m_waiting = false, true;
-    return m_walk.handle && FindNextFileW(m_walk.handle.get(), &m_walk.data);
-  }
-
-  Walk m_walk;
-  bool m_waiting;  // the first step's entry has not been given out
-};
 
 class Output : public OutputFile {
  public:
@@ -95,30 +52,55 @@ UniqueKernelHandle OpenOnDisk(const std::wstring& path, DWORD access, DWORD shar
   return handle;
 }
 
-}  // namespace
+/// A whole file, or why it cannot be had.
+struct Contents {
+  std::optional<std::vector<std::byte>> bytes;
+  DWORD error = ERROR_SEM_TIMEOUT;
+};
 
-std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path,
-                                                       std::size_t limit) {
+Contents ReadAll(const std::wstring& path, std::size_t limit) {
   const UniqueKernelHandle file = OpenOnDisk(path, GENERIC_READ, ShareAll, OPEN_EXISTING);
   LARGE_INTEGER size{};
-  if (!Check(file && GetFileSizeEx(file.get(), &size))) return std::nullopt;
+  if (!file || !GetFileSizeEx(file.get(), &size)) return {{}, GetLastError()};
   constexpr std::size_t OneRead = 0xFFFF'0000;
-  if (static_cast<std::uint64_t>(size.QuadPart) > std::min(limit, OneRead)) {
-    m_lastError = ERROR_FILE_TOO_LARGE;
-    return std::nullopt;
-  }
+  if (static_cast<std::uint64_t>(size.QuadPart) > std::min(limit, OneRead))
+    return {{}, ERROR_FILE_TOO_LARGE};
   std::vector<std::byte> bytes(static_cast<std::size_t>(size.QuadPart));
   DWORD read = 0;
-  if (!Check(
-          ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))) {
-    return std::nullopt;
-  }
+  if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
+    return {{}, GetLastError()};
   bytes.resize(read);
-  return bytes;
+  return {std::move(bytes), ERROR_SUCCESS};
+}
+
+std::optional<FileIdentity> IdentityOf(const std::wstring& path) {
+  const auto file = TakeHandle<UniqueKernelHandle>(
+      CreateFileW(NativePath(path).c_str(), 0, ShareAll, nullptr, OPEN_EXISTING,
+                  FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  BY_HANDLE_FILE_INFORMATION info{};
+  if (!file || !GetFileInformationByHandle(file.get(), &info)) return std::nullopt;
+  return FileIdentity{info.dwVolumeSerialNumber,
+                      std::uint64_t{info.nFileIndexHigh} << 32 | info.nFileIndexLow};
+}
+
+}  // namespace
+
+/// What `ask` answers, or a default answer when it lies on a network that is too slow.
+template <class Ask>
+auto FileSystem::Within(const std::wstring& path, const Patience& patience, Ask ask) {
+  using Answer = decltype(ask());
+  return Waits(path, patience) ? AskWithPatience(ask, patience, Answer{}, path) : ask();
+}
+
+std::optional<std::vector<std::byte>> FileSystem::Read(const std::wstring& path, std::size_t limit,
+                                                       const Patience& patience) {
+  Contents contents = Within(path, patience, [path, limit] { return ReadAll(path, limit); });
+  if (!contents.bytes) m_lastError = contents.error;
+  return std::move(contents.bytes);
 }
 
 bool FileSystem::Waits(const std::wstring& path, const Patience& patience) {
-  return patience.milliseconds != Patience::Endless && LiesOnNetwork(path);
+  return !patience.IsBoundless() && LiesOnNetwork(path);
 }
 
 std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
@@ -131,7 +113,7 @@ std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
     const DWORD attributes = GetFileAttributesW(native.c_str());
     return Answer{attributes, GetLastError()};
   };
-  const Answer answer = Waits(path, patience) ? AskWithPatience(ask, patience, Answer{}) : ask();
+  const Answer answer = Within(path, patience, ask);
   if (answer.attributes == INVALID_FILE_ATTRIBUTES) return m_lastError = answer.error, std::nullopt;
   return answer.attributes;
 }
@@ -156,13 +138,14 @@ std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,
   if (folder.empty()) return m_lastError = ERROR_PATH_NOT_FOUND, nullptr;
   const bool ended = folder.back() == L'\\' || folder.back() == L'/';
   const std::wstring pattern = NativePath(folder + (ended ? L"*" : L"\\*"));
-  Walk late;
-  late.error = ERROR_SEM_TIMEOUT;
-  const auto start = [pattern] { return StartWalk(pattern); };
-  Walk walk = Waits(folder, patience) ? AskWithPatience(start, patience, std::move(late)) : start();
-  // An empty root folder has not even the two dots to find.
-  if (!walk.handle && walk.error != ERROR_FILE_NOT_FOUND) return m_lastError = walk.error, nullptr;
-  return std::make_unique<Listing>(std::move(walk));
+  FolderWalk walk = Within(folder, patience, [pattern] { return FolderWalk(pattern); });
+  if (walk.Failure() != 0) return m_lastError = walk.Failure(), nullptr;
+  return MakeListing(std::move(walk), folder, Waits(folder, patience) ? &patience : nullptr);
+}
+
+std::optional<FileIdentity> FileSystem::Identity(const std::wstring& path,
+                                                 const Patience& patience) {
+  return Within(path, patience, [path] { return IdentityOf(path); });
 }
 
 std::wstring FileSystem::ShortName(const std::wstring& path, const Patience& patience) {
@@ -171,8 +154,7 @@ std::wstring FileSystem::ShortName(const std::wstring& path, const Patience& pat
       return GetShortPathNameW(native.c_str(), text, size);
     });
   };
-  const std::wstring name =
-      Waits(path, patience) ? AskWithPatience(ask, patience, std::wstring()) : ask();
+  const std::wstring name = Within(path, patience, ask);
   Check(!name.empty());
   return name;
 }
@@ -183,9 +165,10 @@ std::wstring FileSystem::WorkingDirectory() {
 
 std::unique_ptr<OutputFile> FileSystem::OpenToWrite(const std::wstring& path, Open how) {
   const bool append = how == Open::Append;
-  UniqueKernelHandle file =
-      OpenOnDisk(path, GENERIC_WRITE, 0, append ? OPEN_ALWAYS : CREATE_ALWAYS);
-  const bool atEnd = file && (!append || SetFilePointerEx(file.get(), {}, nullptr, FILE_END));
+  // Not CREATE_ALWAYS, which is denied a hidden file.
+  UniqueKernelHandle file = OpenOnDisk(path, GENERIC_WRITE, 0, OPEN_ALWAYS);
+  const bool atEnd = file && (append ? SetFilePointerEx(file.get(), {}, nullptr, FILE_END)
+                                     : SetEndOfFile(file.get()));
   if (!Check(atEnd)) return nullptr;
   return std::make_unique<Output>(std::move(file), m_lastError);
 }

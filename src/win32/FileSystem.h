@@ -9,10 +9,12 @@ namespace orvane::win32 {
 /// network is taken for local.
 class FileSystem : public orvane::FileSystem {
  public:
-  std::optional<std::vector<std::byte>> Read(const std::wstring& path,
-                                             std::size_t limit = 256u << 20) override;
+  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit = MaxSize,
+                                             const Patience& patience = Patience::Endless) override;
   std::optional<std::uint32_t> Attributes(const std::wstring& path,
                                           const Patience& patience = Patience::Endless) override;
+  std::optional<FileIdentity> Identity(const std::wstring& path,
+                                       const Patience& patience = Patience::Endless) override;
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                          const Patience& patience) override;
   std::wstring ShortName(const std::wstring& path,
@@ -28,6 +30,8 @@ class FileSystem : public orvane::FileSystem {
  private:
   bool Check(bool success);
   bool Waits(const std::wstring& path, const Patience& patience);
+  template <class Ask>
+  auto Within(const std::wstring& path, const Patience& patience, Ask ask);
 
   std::uint32_t m_lastError = 0;
   std::wstring m_drive;  // the last one that was asked for its kind

@@ -27,20 +27,21 @@ DWORD WINAPI RunTask(void* parameter) {
 }
 
 /// Whether the event comes in time.
-bool IsSet(HANDLE event, const Patience& patience) {
-  for (std::uint32_t left = patience.milliseconds;;) {
+bool IsSet(HANDLE event, const Patience& patience, const std::wstring& path) {
+  for (std::uint32_t left = patience.For(path);;) {
     const DWORD slice = std::min(left, Patience::Slice);
     if (WaitForSingleObject(event, slice) == WAIT_OBJECT_0) return true;
-    left -= slice;
-    if (left == 0) return patience.milliseconds = 0, false;
+    if (left != Patience::Endless) left -= slice;
+    if (left == 0) return patience.RunOut(path), false;
     if (patience.Ends()) return false;
   }
 }
 
 }  // namespace
 
-bool RunWithPatience(std::function<void()> work, const Patience& patience) {
-  if (patience.milliseconds == 0) return false;
+bool RunWithPatience(std::function<void()> work, const Patience& patience,
+                     const std::wstring& path) {
+  if (patience.For(path) == 0) return false;
   constexpr SIZE_T StackSize = 256 << 10;
   const auto task = std::make_shared<Task>();
   task->work = std::move(work);
@@ -56,7 +57,7 @@ bool RunWithPatience(std::function<void()> work, const Patience& patience) {
                                                STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
   if (!thread) return FreeLibrary(task->module), false;
   parameter.release();
-  return IsSet(task->done.get(), patience);
+  return IsSet(task->done.get(), patience, path);
 }
 
 }  // namespace orvane::win32

@@ -80,11 +80,24 @@ TEST_F(CopyOrMove, FixedDestinationAsksNobodyAndNothingIsDoneWithoutNames) {
   EXPECT_EQ(Run(true, {}, L"C:\\Backup"), Lines{});
 }
 
+TEST_F(CopyOrMove, AWildcardStopsItWithAMessageAndTheLongPathPrefixIsNone) {
+  Select({L"\\\\?\\C:\\one", L"\\\\?\\UNC\\srv\\share\\two"});
+  EXPECT_EQ(Run(true, {}, L"C:\\Backup"),
+            (Lines{"SHFileOperation func=copy from=C:\\one|\\\\srv\\share\\two to=C:\\Backup "
+                   "flags=64"}));
+  for (const wchar_t* name : {L"C:\\a*", L"\\\\?\\C:\\a?"}) {
+    Select({L"C:\\one", name});
+    const Lines effects = Run(false, {}, L"C:\\Backup");
+    ASSERT_EQ(effects.size(), 1u);
+    EXPECT_TRUE(effects[0].starts_with("MessageBox")) << effects[0];
+  }
+}
+
 /// A dialog that tells its model the things that the memory dialogs leave out.
 class BrowseDialog : public Dialogs, private BrowseWindow {
  public:
   bool ShowCopyTo(WindowHandle, CopyToModel&) override { return false; }
-  void ShowProgress(WindowHandle, ProgressModel&) override {}
+  bool ShowProgress(WindowHandle, ProgressModel&) override { return false; }
 
   Picked Browse(WindowHandle, const ItemIdList&, const std::wstring& title, std::uint32_t flags,
                 BrowseModel& model) override {

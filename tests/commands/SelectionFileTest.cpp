@@ -13,9 +13,11 @@ using Trouble = memory::FileSystem::Trouble;
 
 class SelectionFile : public testing::Test {
  protected:
+  /// 0, or the failure's number, negative when the file could be opened.
   std::int32_t Write(std::string_view text, const std::wstring& path = File) {
-    const auto error = WriteSelectionFile(desktop->files, path, std::as_bytes(std::span(text)));
-    return error ? error->Number() : 0;
+    const auto failure = WriteSelectionFile(desktop->files, path, std::as_bytes(std::span(text)));
+    if (!failure) return 0;
+    return failure->opened ? -failure->error.Number() : failure->error.Number();
   }
 
   /// Begins with a new desktop, where the file is there.
@@ -38,11 +40,21 @@ TEST_F(SelectionFile, IsWrittenAndReplacedAndNoFileBesideItTouched) {
   EXPECT_FALSE(desktop->files.Exists(L"C:\\Lists\\list.txt.new2"));
 }
 
+TEST_F(SelectionFile, ThatCannotBeReplacedIsWrittenAsItStands) {
+  Restart();
+  desktop->files.Add(Trouble::Fixed, L"C:\\Lists");
+  EXPECT_EQ(Write("new"), 0);
+  EXPECT_EQ(desktop->files.Content(File), "new");
+  EXPECT_EQ(Write("text", L"C:\\Lists\\other.txt"), 75);
+  desktop->files.Add(Trouble::Full, File);
+  EXPECT_EQ(Write("newer"), -61);
+}
+
 TEST_F(SelectionFile, FailureKeepsTheOldFileAndNamesItsReason) {
   struct {
     std::optional<Trouble> trouble;  // or else the file is open in another program
     std::int32_t number;
-  } const rows[] = {{Trouble::Full, 61}, {Trouble::ReadOnly, 75}, {{}, 70}};
+  } const rows[] = {{Trouble::Full, -61}, {Trouble::ReadOnly, 75}, {{}, 70}};
   for (const auto& row : rows) {
     Restart();
     std::unique_ptr<OutputFile> holder;
@@ -56,7 +68,7 @@ TEST_F(SelectionFile, FailureKeepsTheOldFileAndNamesItsReason) {
   }
   desktop->files.AddFolder(L"C:\\Full");
   desktop->files.Add(Trouble::Full, L"C:\\Full");
-  EXPECT_EQ(Write("text", L"C:\\Full\\list.txt"), 61);
+  EXPECT_EQ(Write("text", L"C:\\Full\\list.txt"), -61);
   EXPECT_FALSE(desktop->files.Exists(L"C:\\Full\\list.txt")) << "half of a new file";
   EXPECT_EQ(Write("text", L"C:\\No\\Such\\list.txt"), 76);
 }

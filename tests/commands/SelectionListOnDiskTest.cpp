@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "commands/ClipboardLines.h"
 #include "commands/frmClipboardProgress.h"
 #include "memory/DataObject.h"
 #include "win32/FileSystem.h"
@@ -51,26 +52,13 @@ void FindAll(const std::wstring& folder) {
   FindClose(find);
 }
 
-/// Counts the lines of a text and forgets it.
-struct LineCounter : Clipboard {
-  bool Clear() override { return true; }
-  bool SetText(const std::wstring& text) override {
-    lines = std::ranges::count(text, L'\n');
-    return true;
-  }
-
-  std::ptrdiff_t lines = 0;
-};
-
 /// The length of the tree's clipboard list.
 std::ptrdiff_t ListAll(const std::wstring& folder) {
   win32::FileSystem files;
-  LineCounter counter;
   memory::DataObject selection{folder};
-  frmClipboardProgress form(files, counter);
-  form.m_pSelection = &selection;
-  form.BuildSelectionList(true);
-  return counter.lines;
+  ClipboardLines lines;
+  frmClipboardProgress(files, &selection, lines, false, L"").BuildSelectionList(true);
+  return std::ranges::count(lines.Text(), L'\n');
 }
 
 double Milliseconds(const auto& work) {

@@ -1,5 +1,7 @@
 #include "commands/SelectionTask.h"
 
+#include <algorithm>
+
 #include "Scene.h"
 
 namespace orvane::test {
@@ -66,6 +68,29 @@ TEST_F(SelectionTask, DeliversInOrderAndEachOnItsOwn) {
                    Warning("Could not open the selection file 'C:\\Lists\\list.txt'<13><10><13>"
                            "<10>Error 75: Path/file access error"),
                    "ShellExecuteEx file=C:\\run.exe show=5"}));
+
+  desktop.clipboard.heldOpen = false;
+  item.m_szSelection_File = L"C:\\Full\\list.txt";
+  desktop.files.AddFolder(L"C:\\Full");
+  desktop.files.Add(Trouble::Full, L"C:\\Full");
+  const Lines effects = Run();
+  EXPECT_NE(
+      std::ranges::find(effects, Warning("Could not write the selection file 'C:\\Full\\list.txt'"
+                                         "<13><10><13><10>Error 61: Disk full")),
+      effects.end());
+}
+
+TEST_F(SelectionTask, AListThatLacksSomethingIsToldOfBeforeTheTaskStarts) {
+  item.m_szSelection_Command = L"C:\\run.exe";
+  item.m_szSelection_Filter = L"*.txt";
+  Select({L"\\\\silent\\share\\a.txt"});
+  desktop.files.Stall(L"\\\\silent\\share", 60'000);
+  for (const bool goesOn : {true, false}) {
+    desktop.answers.Add(goesOn ? L"ok" : L"cancel");
+    const Lines effects = Run();
+    ASSERT_EQ(effects.size(), goesOn ? 2u : 1u);
+    EXPECT_TRUE(effects[0].starts_with("MessageBox"));
+  }
 }
 
 TEST_F(SelectionTask, FilterThatTakesNothingIsSaid) {

@@ -29,12 +29,15 @@ class FileSystemContract : public AnyDisk {
   /// Sorted names with "/" after folders.
   List Names(const std::wstring& folder) {
     List names;
-    const auto listing = files.List(folder, 250);
+    const Patience patience = 250;
+    const auto listing = files.List(folder, patience);
     if (!listing) return {L"(none)"};
     for (FoundFile found; listing->Next(found);) {
       const bool isFolder = (found.attributes & FileAttribute::Directory) != 0;
       names.push_back(found.name + (isFolder ? L"/" : L""));
+      EXPECT_FALSE(found.isLink);
     }
+    EXPECT_TRUE(listing->IsWhole());
     std::ranges::sort(names);
     return names;
   }
@@ -130,6 +133,19 @@ TEST_P(FileSystemContract, TellsFoldersFromFiles) {
   EXPECT_STREQ(kind(L""), "nothing");
 }
 
+TEST_P(FileSystemContract, KnowsWhatIsOneAndTheSame) {
+  MakeFolder(L"A long name with blanks");
+  MakeFolder(L"Other");
+  Put(L"file");
+  const auto folder = files.Identity(At(L"A long name with blanks"));
+  EXPECT_TRUE(folder);
+  EXPECT_EQ(files.Identity(files.ShortName(At(L"a LONG name with blanks")) + L"\\"), folder);
+  EXPECT_EQ(files.Identity(At(L"Other\\..\\A long name with blanks")), folder);
+  EXPECT_NE(files.Identity(At(L"Other")), folder);
+  EXPECT_NE(files.Identity(At(L"file")), folder);
+  EXPECT_FALSE(files.Identity(At(L"none")));
+}
+
 TEST_P(FileSystemContract, ListsFolders) {
   MakeFolder(L"Folder");
   MakeFolder(L"Folder\\Sub");
@@ -191,8 +207,10 @@ class Mount : public AnyDisk {
   }
   std::wstring Names(const std::wstring& folder) {
     std::wstring names;
-    const auto listing = files.List(folder, 250);
-    for (FoundFile found; listing && listing->Next(found);) names += found.name + L"|";
+    const Patience patience = 250;
+    const auto listing = files.List(folder, patience);
+    for (FoundFile found; listing && listing->Next(found);)
+      names += found.name + (found.isLink ? L"->|" : L"|");
     return names;
   }
 };
@@ -222,8 +240,9 @@ TEST_P(Mount, FollowsLinksOneLevelAtATime) {
   std::filesystem::create_symlink("nowhere", m_scratch.Path() / "broken");
   Write("\xE4 no UTF-8", "");
   m_memory.files.Mount(L"E:", m_scratch.Path());
-  EXPECT_EQ(Names(L"E:\\"), L"loop|");
-  EXPECT_EQ(Names(L"E:\\loop\\loop\\loop"), L"loop|");
+  EXPECT_EQ(Names(L"E:\\"), L"loop->|");
+  EXPECT_EQ(Names(L"E:\\loop\\loop\\loop"), L"loop->|");
+  EXPECT_EQ(files.Identity(L"E:\\loop\\loop"), files.Identity(L"E:\\"));
   EXPECT_EQ(files.Attributes(L"E:\\loop"), FileAttribute::Directory | FileAttribute::ReparsePoint);
 }
 #endif

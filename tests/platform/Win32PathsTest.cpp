@@ -1,6 +1,11 @@
 #ifdef _WIN32
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <set>
+
+#include "platform/ScratchFolder.h"
+#include "win32/FolderWalk.h"
 #include "win32/NativePath.h"
 #include "win32/Patience.h"
 
@@ -26,15 +31,40 @@ TEST(Win32Paths, LiftsTheLimitOnlyWhereItIsNeeded) {
   EXPECT_EQ(NativePath(L"\\\\?\\C:" + name), L"\\\\?\\C:" + name);
 }
 
+TEST(Win32FolderWalk, FetchesANetworkFolderPieceByPiece) {
+  const ScratchFolder scratch;
+  const std::wstring folder = scratch.Path().wstring();
+  for (int i = 0; i < 600; ++i) std::ofstream(scratch.Path() / std::to_wstring(i));
+  const Patience user{Patience::Endless, [] { return true; }};
+  const auto listing = MakeListing(FolderWalk(folder + L"\\*"), folder, &user);
+  std::set<std::wstring> names;
+  for (FoundFile found; listing->Next(found);) names.insert(found.name);
+  EXPECT_EQ(names.size(), 600u);
+  EXPECT_TRUE(listing->IsWhole());
+  EXPECT_EQ(FolderWalk(folder + L"\\none\\*").Failure(), DWORD{ERROR_PATH_NOT_FOUND});
+
+  const Patience none = 0;
+  const auto silent = MakeListing(FolderWalk(folder + L"\\*"), folder, &none);
+  FoundFile found;
+  EXPECT_FALSE(silent->Next(found) || silent->Next(found));
+  EXPECT_FALSE(silent->IsWhole());
+}
+
 TEST(Win32Patience, LeavesSlowWorkToItself) {
   const HANDLE ended = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   const DWORD start = GetTickCount();
-  EXPECT_FALSE(RunWithPatience([ended] { Sleep(400), SetEvent(ended); }, 50));
+  const Patience patience = 50;
+  EXPECT_FALSE(RunWithPatience([ended] { Sleep(400), SetEvent(ended); }, patience, L"\\\\a\\b"));
   EXPECT_LT(GetTickCount() - start, 350u);
   EXPECT_EQ(WaitForSingleObject(ended, 5'000), WAIT_OBJECT_0);
   CloseHandle(ended);
+  EXPECT_TRUE(patience.HasRunOut());
+  EXPECT_FALSE(RunWithPatience([] {}, patience, L"\\\\?\\UNC\\a\\c")) << "the same server";
+  EXPECT_TRUE(RunWithPatience([] {}, patience, L"\\\\ab\\b")) << "another one";
   const DWORD cancelled = GetTickCount();
-  EXPECT_FALSE(RunWithPatience([] { Sleep(1'000); }, {5'000, [] { return false; }}));
+  const Patience user{Patience::Endless, [] { return false; }};
+  EXPECT_FALSE(RunWithPatience([] { Sleep(1'000); }, user));
+  EXPECT_FALSE(user.HasRunOut());
   EXPECT_LT(GetTickCount() - cancelled, 500u);
   EXPECT_EQ(AskWithPatience([] { return 7; }, 5'000, 0), 7);
   EXPECT_EQ(AskWithPatience([] { return Sleep(200), 7; }, 10, 0), 0);
