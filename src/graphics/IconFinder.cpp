@@ -1,5 +1,7 @@
 #include "graphics/IconFinder.h"
 
+#include <algorithm>
+
 #include "support/Text.h"
 #include "support/Trace.h"
 
@@ -48,7 +50,20 @@ std::optional<SystemIcon> IconFinder::Find(const IconFile& file) {
   const bool isFolder = (attributes & FileAttribute::Directory) != 0;
   const std::wstring kind = KindName({file.path, isFolder});
   const bool own = isFolder ? MayHaveOwnIcon(attributes) : KindOf(kind).ownIcons;
-  return own && file.path.size() < ShellPathLimit ? m_icons.Find(file.path) : FindKind(kind);
+  const bool asked = own && file.path.size() < ShellPathLimit && IsAtHand(file.path);
+  return asked ? m_icons.Find(file.path) : FindKind(kind);
+}
+
+/// Whether the shell can look into the file without fetching it from somewhere, or waiting for a
+/// server that the file, a shortcut, leads to.
+bool IconFinder::IsAtHand(const std::wstring& path) {
+  constexpr std::uint32_t Elsewhere =
+      FileAttribute::Offline | FileAttribute::RecallOnOpen | FileAttribute::RecallOnDataAccess;
+  const auto attributes = m_files.Attributes(path);
+  if (!attributes || (*attributes & Elsewhere) != 0) return false;
+  return std::ranges::none_of(m_icons.LeadsTo(path), [this](const std::wstring& place) {
+    return m_files.LiesOnNetwork(place);
+  });
 }
 
 IconFinder::Kind& IconFinder::KindOf(const std::wstring& name) {

@@ -35,6 +35,7 @@ class IconFinder {
     std::optional<SystemIcon> icon;
   };
 
+  bool IsAtHand(const std::wstring& path);
   Kind& KindOf(const std::wstring& name);
   std::optional<SystemIcon> FindKind(const std::wstring& name);
 

@@ -48,6 +48,12 @@ bool ShellIcons::HasOwnIcons(const std::wstring& extension) {
   return ownIcons.contains(extension);
 }
 
+std::vector<std::wstring> ShellIcons::LeadsTo(const std::wstring& path) {
+  const auto found = shortcuts.find(path);
+  if (m_faults.Hit() || found == shortcuts.end()) return {};
+  return {found->second};
+}
+
 IconHandle ShellIcons::Take(const SystemIcon& icon, std::int32_t size) {
   ++takes;
   lastSize = size;

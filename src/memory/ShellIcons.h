@@ -21,13 +21,15 @@ class ShellIcons : public orvane::ShellIcons {
   std::optional<SystemIcon> FindFileKind(const std::wstring& extension) override;
   std::optional<SystemIcon> FindFolderKind() override;
   bool HasOwnIcons(const std::wstring& extension) override;
+  std::vector<std::wstring> LeadsTo(const std::wstring& path) override;
   IconHandle Take(const SystemIcon& icon, std::int32_t size) override;
   void FreeIcon(IconHandle icon) override;
 
   // For tests.
   std::set<std::wstring> ownIcons = {L".exe", L".lnk"};
-  std::size_t finds = 0;      // dear questions
-  std::size_t kindFinds = 0;  // cheap ones
+  std::map<std::wstring, std::wstring> shortcuts;  // what the file leads to
+  std::size_t finds = 0;                           // dear questions
+  std::size_t kindFinds = 0;                       // cheap ones
   std::size_t takes = 0;
   std::int32_t lastSize = 0;  // as Take was asked
   std::size_t Live() const { return m_live.size(); }

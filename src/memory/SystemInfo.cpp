@@ -1,7 +1,5 @@
 #include "memory/SystemInfo.h"
 
-#include <algorithm>
-
 #include "memory/Windows1252.h"
 #include "support/Text.h"
 
@@ -18,15 +16,15 @@ void SystemInfo::SetEnvironment(const std::wstring& name, std::wstring value) {
 
 std::wstring SystemInfo::Expand(const std::wstring& text) {
   std::wstring expanded;
-  std::size_t start = 0;
-  for (std::size_t end; (end = text.find(L'%', start + 1)) != std::wstring::npos;) {
-    const bool named = text[start] == L'%';
-    const std::wstring value =
-        named ? Environment(text.substr(start + 1, end - start - 1)) : std::wstring();
-    expanded += value.empty() ? text.substr(start, end - start) : value;
-    start = value.empty() ? end : end + 1;
+  std::size_t place = 0;
+  for (std::size_t start, end; (start = text.find(L'%', place)) != std::wstring::npos &&
+                               (end = text.find(L'%', start + 1)) != std::wstring::npos;
+       place = end + 1) {
+    const std::wstring value = Environment(text.substr(start + 1, end - start - 1));
+    expanded += text.substr(place, start - place);
+    expanded += value.empty() ? text.substr(start, end + 1 - start) : value;
   }
-  return expanded + text.substr(std::min(start, text.size()));
+  return expanded + text.substr(place);
 }
 
 std::array<wchar_t, 256> SystemInfo::AnsiCharacters() {

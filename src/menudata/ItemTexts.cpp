@@ -35,6 +35,7 @@ constexpr Caption BuiltInCaptions[] = {
     {Data::TypeShowDesktop, L"Show Desktop"},
     {Data::TypeAddToQuickAccessMRU, L"&Add To Quick Access"},
     {Data::TypeDynamicFolderEmpty, L"(Empty)"},
+    {Data::TypeDynamicFolderNoAnswer, L"(No answer)"},
 };
 
 bool HasCaptionOfTheUser(const Data& item) {

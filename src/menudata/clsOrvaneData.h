@@ -37,6 +37,7 @@ class clsOrvaneData : public Object {
   static constexpr std::int32_t TypePopupHistory = 1013;
   static constexpr std::int32_t TypePopupQuickAccess = 1014;
   static constexpr std::int32_t TypeDynamicFolderEmpty = 1015;
+  static constexpr std::int32_t TypeDynamicFolderNoAnswer = 1016;  // its share was too slow
 
   static constexpr std::int32_t OptionsLeaf = 1;
   static constexpr std::int32_t OptionsExploreInNewWindow = 2;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Handles.h"
 #include "platform/UniqueResource.h"
@@ -33,6 +34,10 @@ class ShellIcons {
   /// Whether each file of the extension (with its dot, lower case) may have an icon of its own, as
   /// programs and shortcuts have.
   virtual bool HasOwnIcons(const std::wstring& extension) = 0;
+
+  /// Where the shell would look for the icon of a shortcut: what it leads to and what it takes its
+  /// icon from. Told without asking there; empty for other files.
+  virtual std::vector<std::wstring> LeadsTo(const std::wstring& path) = 0;
 
   /// A copy of the icon, taken at `size` pixels where the shell keeps one so large, else as it is;
   /// the caller's to free. None when the system is out of icons.

@@ -203,6 +203,7 @@ void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
   m_state.commands.Clear();
   // The submenus of an earlier menu belong to that menu; only this one's are filled from now on.
   m_state.dynamicMenus.Clear();
+  m_state.m_lNoAnswerCmdId = 0;
   m_state.m_hMenu = hMenu;
   m_state.m_lMenuPosition = indexMenu;
   UniqueMenu root = m_writer.CreatePopup();

@@ -12,10 +12,6 @@
 namespace orvane {
 namespace {
 
-// How long a menu may wait for a folder on a network that does not answer, in milliseconds. The
-// user sees the menu hang for that long, once; afterwards the submenu says "(Empty)".
-constexpr std::uint32_t NetworkPatience = 1000;
-
 // Every folder shown is a menu of its own, and a process may have 10,000 menus, windows and the
 // like in all (Windows: "User Objects"). Beyond this many the host would be left without.
 constexpr std::int32_t MaxSubmenus = 4000;
@@ -27,29 +23,28 @@ void DynamicFolders::Open(MenuHandle submenu) {
   Log(L"WM_INITMENUPOPUP - m_lMenuCmdId=", m_state.ids.Next());
   DynamicMenus::Entry entry = m_state.dynamicMenus.Find(submenu);
   if (!entry) return;
-  if (!entry.IsFilled()) {
-    CreateDynamicMenu(entry);
-    entry.SetFilled();
-  }
+  if (!entry.IsFilled() && CreateDynamicMenu(entry)) entry.SetFilled();
   m_state.ids.SuspendDynamic();
 }
 
-void DynamicFolders::CreateDynamicMenu(const DynamicMenus::Entry& entry) {
+/// False when the folder did not answer.
+bool DynamicFolders::CreateDynamicMenu(DynamicMenus::Entry entry) {
   TraceScope scope(L"CreateDynamicMenu");
   try {
-    Fill(entry);
+    return Fill(std::move(entry));
   } catch (...) {
     scope.Caught();
+    return true;
   }
 }
 
-void DynamicFolders::Fill(const DynamicMenus::Entry& entry) {
+bool DynamicFolders::Fill(DynamicMenus::Entry entry) {
   Menus& menus = m_globals.platform.menus;
   const MenuHandle menu = entry.Submenu();
   const auto folder = entry.Folder().Record();
   Log(L"hMenu=", Hex(menu), L"  szDir=", folder->Location());
   Listed listed;
-  List(*folder, listed);
+  const bool answered = List(*folder, listed);
 
   Log(L"Sorting ", listed.keys.Count());
   const std::vector<std::int32_t> order = listed.keys.Sort_Bubble(L"m_szKey");
@@ -61,16 +56,40 @@ void DynamicFolders::Fill(const DynamicMenus::Entry& entry) {
     Log(L"MenuCount=", count);
     menus.Remove(menu, 0);
     Log(L"Killed empty entry");
+  } else {
+    SayWhatIsThere(std::move(entry), answered);
   }
+  return answered;
 }
 
-/// Records for the kept entries, each with its identifier, and their sort keys.
-void DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
+/// Sees to it that the placeholder says "(Empty)", or that there was no answer.
+void DynamicFolders::SayWhatIsThere(DynamicMenus::Entry entry, bool answered) {
+  if (answered != entry.SaysNoAnswer() || !TakeNoAnswerId()) return;
+  m_globals.platform.menus.Remove(entry.Submenu(), 0);
+  m_writer.AppendPlaceholder(entry.Submenu(), answered ? clsOrvaneData::TypeDynamicFolderEmpty
+                                                       : clsOrvaneData::TypeDynamicFolderNoAnswer);
+  entry.SayNoAnswer(!answered);
+}
+
+/// One entry of the command table stands for all folders that did not answer.
+bool DynamicFolders::TakeNoAnswerId() {
+  if (m_state.m_lNoAnswerCmdId != 0) return true;
+  if (!m_writer.CanInsert()) return false;
+  auto record = std::make_shared<clsOrvaneData>();
+  record->m_lType = clsOrvaneData::TypeDynamicFolderNoAnswer;
+  m_state.m_lNoAnswerCmdId = m_state.ids.Take();
+  m_state.commands.Add(std::move(record)).Id(m_state.m_lNoAnswerCmdId);
+  return true;
+}
+
+/// Records for the kept entries, each with its identifier, and their sort keys. False when nothing
+/// came in time.
+bool DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
   std::wstring path = folder.Location();
   if (!path.ends_with(L'\\')) path += L'\\';
   const Patience patience = Patience::Menu;
   const auto listing = m_globals.platform.files.List(path, patience);
-  if (!listing) return;
+  if (!listing) return !patience.HasRunOut();
 
   const FileFilter filter(folder.m_szDFolder_Filter);
   const std::int32_t maximum = m_globals.g_Options.m_lShellMaxMenuText;
@@ -85,7 +104,7 @@ void DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
     }
     if (!m_writer.CanInsert()) {
       Log(L"No identifier left for: ", path, found.name, L" and what follows it");
-      return;
+      return true;
     }
 
     auto record = std::make_shared<clsOrvaneData>();
@@ -101,6 +120,7 @@ void DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
     listed.commands.push_back(std::move(command));
     listed.keys.Add(key);
   }
+  return listed.keys.Count() > 0 || !patience.HasRunOut();
 }
 
 void DynamicFolders::AddEntry(const Command& command, MenuHandle menu) {

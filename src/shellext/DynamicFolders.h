@@ -13,7 +13,8 @@ class DynamicFolders {
       : m_globals(globals), m_state(state), m_writer(writer) {}
 
   /// The submenu is about to be shown (WM_INITMENUPOPUP). Nothing happens for a submenu that is no
-  /// dynamic folder or is filled already.
+  /// dynamic folder or is filled already. A folder on a share that does not answer in time says so,
+  /// and is asked again when it is opened again.
   void Open(MenuHandle submenu);
 
  private:
@@ -23,9 +24,11 @@ class DynamicFolders {
     clsCollection keys;
   };
 
-  void CreateDynamicMenu(const DynamicMenus::Entry& entry);
-  void Fill(const DynamicMenus::Entry& entry);
-  void List(const clsOrvaneData& folder, Listed& listed);
+  bool CreateDynamicMenu(DynamicMenus::Entry entry);
+  bool Fill(DynamicMenus::Entry entry);
+  bool List(const clsOrvaneData& folder, Listed& listed);
+  void SayWhatIsThere(DynamicMenus::Entry entry, bool answered);
+  bool TakeNoAnswerId();
   void AddEntry(const Command& command, MenuHandle menu);
 
   ModuleGlobals& m_globals;

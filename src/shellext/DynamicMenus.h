@@ -22,6 +22,9 @@ class DynamicMenus {
     }
     bool IsFilled() const { return m_node->m_lData != 0; }
     void SetFilled() { m_node->m_lData = 1; }
+    /// Whether its placeholder says that the folder did not answer.
+    bool SaysNoAnswer() const { return m_node->m_lData2 != 0; }
+    void SayNoAnswer(bool says) { m_node->m_lData2 = says; }
 
    private:
     clsCollection::Node m_node;

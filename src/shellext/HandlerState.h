@@ -24,8 +24,9 @@ struct HandlerState {
   CommandTable commands;
   DynamicMenus dynamicMenus;
   PictureStore pictures;
-  CommandIds ids;                  // m_lMenuCmdId, m_lIdCmdFirst, m_lIdCmdLast, m_lDynamicCmdId
-  std::int32_t m_lEmptyCmdId = 0;  // the placeholder of empty dynamic folders
+  CommandIds ids;                     // m_lMenuCmdId, m_lIdCmdFirst, m_lIdCmdLast, m_lDynamicCmdId
+  std::int32_t m_lEmptyCmdId = 0;     // the placeholder of empty dynamic folders
+  std::int32_t m_lNoAnswerCmdId = 0;  // that of folders that did not answer; 0 until there is one
   std::int32_t m_lNumWindowActions = 0;
 };
 

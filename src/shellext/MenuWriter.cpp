@@ -45,12 +45,13 @@ bool MenuWriter::InsertDynamicFolder(const Target& target, MenuItem item) {
   return true;
 }
 
-void MenuWriter::AppendPlaceholder(MenuHandle submenu) {
+void MenuWriter::AppendPlaceholder(MenuHandle submenu, std::int32_t type) {
   clsOrvaneData placeholder;
-  placeholder.m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
+  placeholder.m_lType = type;
   MenuEntry entry;
   entry.caption = Caption(placeholder);
-  entry.id = static_cast<std::uint32_t>(m_state.m_lEmptyCmdId);
+  const bool empty = type == clsOrvaneData::TypeDynamicFolderEmpty;
+  entry.id = static_cast<std::uint32_t>(empty ? m_state.m_lEmptyCmdId : m_state.m_lNoAnswerCmdId);
   entry.ownerDraw = m_globals.g_Options.m_bShellOwnerDraw;
   entry.state = entry.ownerDraw ? MenuEntry::State::Disabled : MenuEntry::State::Grayed;
   m_globals.platform.menus.Insert(submenu, Menus::Append, entry);

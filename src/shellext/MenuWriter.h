@@ -40,8 +40,10 @@ class MenuWriter {
   /// A dynamic folder: the item with its empty submenu, which is filled when it opens.
   bool InsertDynamicFolder(const Target& target, MenuItem item);
 
-  /// The disabled "(Empty)" entry of a submenu that is not filled yet.
-  void AppendPlaceholder(MenuHandle submenu);
+  /// The disabled entry of a submenu that is not filled yet: "(Empty)", or that there was no
+  /// answer.
+  void AppendPlaceholder(MenuHandle submenu,
+                         std::int32_t type = clsOrvaneData::TypeDynamicFolderEmpty);
 
   void InsertSeparator(const Target& target);
   bool HasEntries(MenuHandle menu) const;

@@ -27,9 +27,9 @@ class FolderWalk {
  private:
   bool Step();
 
-  UniqueFindHandle m_handle;
   WIN32_FIND_DATAW m_data{};
-  bool m_waiting = false;  // the first step's entry has not been given out
+  UniqueFindHandle m_handle;  // after the data, which opening it fills
+  bool m_waiting = false;     // the first step's entry has not been given out
   DWORD m_error = ERROR_SEM_TIMEOUT;
 };
 

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 #include <commoncontrols.h>
 #include <shellapi.h>
+#include <shlobj.h>
 #include <shlwapi.h>
 
 #include <algorithm>
@@ -12,6 +13,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "win32/ComPointer.h"
 #include "win32/NativeHandles.h"
 
 namespace orvane::win32 {
@@ -76,6 +78,23 @@ class ImageList {
   IImageList* m_list = nullptr;
 };
 
+/// What stands in the shortcut, whether it is there or not.
+std::vector<std::wstring> PlacesOfLink(const std::wstring& path) {
+  ComPointer<IShellLinkW> link;
+  ComPointer<IPersistFile> file;
+  if (FAILED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                              reinterpret_cast<void**>(link.Out()))) ||
+      FAILED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(file.Out()))) ||
+      FAILED(file->Load(path.c_str(), STGM_READ))) {
+    return {};
+  }
+  std::array<wchar_t, MAX_PATH> target{}, icon{};
+  int index = 0;
+  link->GetPath(target.data(), static_cast<int>(target.size()), nullptr, SLGP_RAWPATH);
+  link->GetIconLocation(icon.data(), static_cast<int>(icon.size()), &index);
+  return {target.data(), icon.data()};
+}
+
 }  // namespace
 
 std::optional<SystemIcon> ShellIcons::Find(const std::wstring& path) {
@@ -99,6 +118,16 @@ bool ShellIcons::HasOwnIcons(const std::wstring& extension) {
   if (std::ranges::find(Known, extension) != std::end(Known)) return true;
   return Association(ASSOCSTR_DEFAULTICON, extension, nullptr).find(L"%1") != std::wstring::npos ||
          !Association(ASSOCSTR_SHELLEXTENSION, extension, L"IconHandler").empty();
+}
+
+std::vector<std::wstring> ShellIcons::LeadsTo(const std::wstring& path) {
+  const wchar_t* extension = PathFindExtensionW(path.c_str());
+  if (lstrcmpiW(extension, L".lnk") == 0) return PlacesOfLink(path);
+  if (lstrcmpiW(extension, L".url") != 0) return {};
+  std::array<wchar_t, MAX_PATH> icon{};
+  GetPrivateProfileStringW(L"InternetShortcut", L"IconFile", L"", icon.data(),
+                           static_cast<DWORD>(icon.size()), path.c_str());
+  return {icon.data()};
 }
 
 IconHandle ShellIcons::Take(const SystemIcon& icon, std::int32_t size) {

@@ -12,6 +12,7 @@ class ShellIcons : public orvane::ShellIcons {
   std::optional<SystemIcon> FindFileKind(const std::wstring& extension) override;
   std::optional<SystemIcon> FindFolderKind() override;
   bool HasOwnIcons(const std::wstring& extension) override;
+  std::vector<std::wstring> LeadsTo(const std::wstring& path) override;
   IconHandle Take(const SystemIcon& icon, std::int32_t size) override;
   void FreeIcon(IconHandle icon) override;
 };

@@ -138,6 +138,11 @@ TEST_F(OwnerDrawMenuTest, WhoseIconIsWhose) {
       {L"program beyond the shell's reach", Data::TypeFile, longPath, 0, 1, false},
       {L"file on a server", Data::TypeFile, L"\\\\away\\share\\x.exe", 0, 1, false},
       {L"program on a mapped drive", Data::TypeFile, L"Z:\\x.exe", 0, 1, false},
+      {L"program that is elsewhere", Data::TypeFile, L"C:\\offline.exe", 0, 1, false},
+      {L"program in a cloud", Data::TypeFile, L"C:\\cloud.exe", 0, 1, false},
+      {L"folder in a cloud", Data::TypeFolder, L"C:\\cloud", 0, 1, false},
+      {L"shortcut", Data::TypeFile, L"C:\\near.lnk", 1, 0, false},
+      {L"shortcut to a mapped drive", Data::TypeFile, L"C:\\far.lnk", 0, 1, false},
   };
   for (const auto& row : rows) {
     MenuDesk desk;
@@ -145,6 +150,14 @@ TEST_F(OwnerDrawMenuTest, WhoseIconIsWhose) {
     desk.desktop.files.AddFile(longPath);
     desk.desktop.files.AddFolder(L"C:\\plain");
     desk.desktop.files.AddFolder(L"C:\\own").attributes |= FileAttribute::ReadOnly;
+    auto& files = desk.desktop.files;
+    files.AddFile(L"C:\\offline.exe").attributes |= FileAttribute::Offline;
+    files.AddFile(L"C:\\cloud.exe").attributes |= FileAttribute::RecallOnDataAccess;
+    files.AddFolder(L"C:\\cloud").attributes |=
+        FileAttribute::ReadOnly | FileAttribute::RecallOnOpen;
+    for (const wchar_t* name : {L"C:\\near.lnk", L"C:\\far.lnk"}) files.AddFile(name);
+    desk.desktop.icons.shortcuts = {{L"C:\\near.lnk", L"C:\\d.exe"},
+                                    {L"C:\\far.lnk", L"Z:\\x.exe"}};
     desk.desktop.files.Stall(L"Z:\\", 30'000);
     desk.Load();
     const std::uint32_t start = desk.desktop.clock.Ticks();

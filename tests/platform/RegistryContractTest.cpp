@@ -57,7 +57,7 @@ TEST_P(RegistryContract, PutsTheEnvironmentIntoTexts) {
   const std::wstring root = m_platform.system.Environment(L"SystemRoot");
   const std::pair<std::wstring, std::wstring> rows[] = {
       {L"%systemroot%\\a%SYSTEMROOT%", root + L"\\a" + root},
-      {L"100 % of %ORVANE_NONE% and %SystemRoot%", L"100 % of %ORVANE_NONE% and " + root},
+      {L"%ORVANE_NONE%, %SystemRoot%, 100 %", L"%ORVANE_NONE%, " + root + L", 100 %"},
       {L"%", L"%"},
       {L"%%", L"%%"},
       {L"", L""},

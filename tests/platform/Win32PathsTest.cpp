@@ -1,13 +1,17 @@
 #ifdef _WIN32
 #include <gtest/gtest.h>
+#include <ole2.h>
+#include <shlobj.h>
 
 #include <fstream>
 #include <set>
 
 #include "platform/ScratchFolder.h"
+#include "win32/ComPointer.h"
 #include "win32/FolderWalk.h"
 #include "win32/NativePath.h"
 #include "win32/Patience.h"
+#include "win32/ShellIcons.h"
 
 namespace orvane::win32 {
 namespace {
@@ -48,6 +52,35 @@ TEST(Win32FolderWalk, FetchesANetworkFolderPieceByPiece) {
   FoundFile found;
   EXPECT_FALSE(silent->Next(found) || silent->Next(found));
   EXPECT_FALSE(silent->IsWhole());
+}
+
+TEST(Win32ShellIcons, ReadWhereAShortcutLeads) {
+  ASSERT_TRUE(SUCCEEDED(OleInitialize(nullptr)));
+  {
+    const ScratchFolder scratch;
+    const std::wstring link = (scratch.Path() / "a.lnk").wstring();
+    ComPointer<IShellLinkW> shortcut;
+    ComPointer<IPersistFile> file;
+    ASSERT_EQ(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                               reinterpret_cast<void**>(shortcut.Out())),
+              S_OK);
+    ASSERT_EQ(shortcut->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(file.Out())),
+              S_OK);
+    shortcut->SetPath(L"C:\\windows\\notepad.exe");
+    shortcut->SetIconLocation(L"\\\\dead\\share\\a.ico", 0);
+    ASSERT_EQ(file->Save(link.c_str(), TRUE), S_OK);
+    const std::vector<std::wstring> places = ShellIcons().LeadsTo(link);
+    ASSERT_EQ(places.size(), 2u);
+    EXPECT_TRUE(places[0].ends_with(L"notepad.exe")) << places[0];
+    EXPECT_TRUE(IsOnNetwork(places[1])) << places[1];
+
+    const auto internet = scratch.Path() / "b.url";
+    std::ofstream(internet) << "[InternetShortcut]\r\nIconFile=\\\\dead\\share\\b.ico\r\n";
+    EXPECT_EQ(ShellIcons().LeadsTo(internet.wstring()),
+              std::vector<std::wstring>{L"\\\\dead\\share\\b.ico"});
+    EXPECT_TRUE(ShellIcons().LeadsTo(L"C:\\windows\\notepad.exe").empty());
+  }
+  OleUninitialize();
 }
 
 TEST(Win32Patience, LeavesSlowWorkToItself) {

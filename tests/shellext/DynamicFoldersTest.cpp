@@ -63,13 +63,40 @@ TEST(DynamicFolders, StayEmptyWhenThereIsNothingToShow) {
   }
 }
 
-TEST(DynamicFolders, GiveUpAFolderThatDoesNotAnswer) {
-  Folder click(L"", L"\\\\server\\share");
-  click.desktop.files.AddFile(L"\\\\server\\share\\a.txt");
-  click.desktop.files.Stall(L"\\\\server\\share", 60000);
-  const std::uint32_t before = click.desktop.clock.Ticks();
-  EXPECT_EQ(click.ClickAndOpen(), Empty);
-  EXPECT_LE(click.desktop.clock.Ticks() - before, 1000u);
+TEST(DynamicFolders, AskAFolderThatDidNotAnswerAgainWhenOpenedAgain) {
+  const std::wstring share = L"\\\\server\\share";
+  for (const bool ownerDraw : {false, true}) {
+    Folder click(L"", share.c_str());
+    click.Set(L"ShellOwnerDraw", ownerDraw);
+    click.desktop.files.AddFolder(share);
+    click.desktop.files.Stall(share, 60'000);
+    const std::uint32_t before = click.desktop.clock.Ticks();
+    EXPECT_EQ(click.ClickAndOpen(), L"(No answer) (disabled)\n");
+    EXPECT_LE(click.desktop.clock.Ticks() - before, 1000u);
+    const auto id = static_cast<std::int32_t>(click.Entries(L"Work")[0].id);
+    EXPECT_EQ(click.handler->OwnerDrawMenu_GetCaption(id), L"(No answer)");
+    EXPECT_EQ(click.Open(L"Work"), L"(No answer) (disabled)\n");
+    click.desktop.files.Stall(share, 0);
+    EXPECT_EQ(click.Open(L"Work"), Empty) << "for good";
+  }
+  Folder click(L"", share.c_str());
+  click.desktop.files.AddFile(share + L"\\a.txt");
+  click.desktop.files.Stall(share, 60'000);
+  click.ClickAndOpen();
+  click.desktop.files.Stall(share, 500);
+  EXPECT_EQ(click.Open(L"Work"), L"a.txt\n");
+}
+
+TEST(Menu, ADeadShareCostsItsOwnFilesAndASecond) {
+  for (const wchar_t* setting : {L"ShellConfigFile", L"ShellCustomActionsFile"}) {
+    RightClick click;
+    click.desktop.registry.SetText(Hive::CurrentUser, SettingsKey, setting,
+                                   L"\\\\dead\\share\\file");
+    click.desktop.files.Stall(L"\\\\dead\\share", 60'000);
+    const std::uint32_t before = click.desktop.clock.Ticks();
+    click.Click();
+    EXPECT_LE(click.desktop.clock.Ticks() - before, 1000u) << setting;
+  }
 }
 
 TEST(DynamicFolders, AreListedOnceAndKeepTheirIdentifiers) {
