@@ -14,9 +14,10 @@ class CountingFiles : public memory::FileSystem {
  public:
   using memory::FileSystem::FileSystem;
 
-  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit) override {
+  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit,
+                                             const Patience& patience) override {
     ++reads;
-    return memory::FileSystem::Read(path, limit);
+    return memory::FileSystem::Read(path, limit, patience);
   }
 
   int reads = 0;
