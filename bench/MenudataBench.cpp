@@ -3,10 +3,12 @@
 #include <benchmark/benchmark.h>
 
 #include <random>
+#include <span>
 #include <string>
 
 #include "memory/Desktop.h"
 #include "menudata/Definition.h"
+#include "support/Scrambler.h"
 
 namespace orvane {
 namespace {
@@ -55,7 +57,32 @@ void ReadDefinitionFile(benchmark::State& state) {
   }
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-BENCHMARK(ReadDefinitionFile)->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
+constexpr std::int64_t ItemsOfAMegabyte = 12'700;
+BENCHMARK(ReadDefinitionFile)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(5000)
+    ->Arg(ItemsOfAMegabyte)
+    ->Unit(benchmark::kMicrosecond);
+
+/// What cannot be done without: a copy of the file, each value of which is deciphered in place.
+void DecipherDefinitionFile(benchmark::State& state) {
+  Tools tools;
+  const std::vector<std::byte> bytes = DefinitionOf(tools, state.range(0));
+  Scrambler scrambler(L"QWXKRTZPV");
+  for (auto _ : state) {
+    std::vector<std::byte> copy = bytes;
+    for (std::span<std::byte> rest = copy; rest.size() > 4;) {
+      const auto size =
+          std::to_integer<std::size_t>(rest[2]) | std::to_integer<std::size_t>(rest[3]) << 8;
+      scrambler.Scramble(rest.subspan(4, size));
+      rest = rest.subspan(4 + size);
+    }
+    benchmark::DoNotOptimize(copy.data());
+  }
+  state.counters["bytes"] = static_cast<double>(bytes.size());
+}
+BENCHMARK(DecipherDefinitionFile)->Arg(ItemsOfAMegabyte)->Unit(benchmark::kMicrosecond);
 
 /// Keys as a dynamic folder makes them.
 void SortBubble(benchmark::State& state) {

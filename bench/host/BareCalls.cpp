@@ -37,8 +37,6 @@ constexpr const wchar_t* SettingNames[] = {L"ShellEnable",
                                            L"GeneralAllowMultipleInstances",
                                            L"GeneralSaveWindowPos"};
 
-constexpr wchar_t ListCount[] = L"MruFileCount";
-
 void Read(HKEY key, const wchar_t* name) {
   BYTE data[1024];
   DWORD size = sizeof data;
@@ -52,19 +50,13 @@ void ReadSettings() {
   RegCloseKey(key);
 }
 
-void ReadList(const wchar_t* path) {
+void ReadList(const wchar_t* name, int entries) {
   HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) return;
-  Read(key, ListCount);
-  RegCloseKey(key);
-}
-
-void SaveList(const wchar_t* path) {
-  HKEY key = nullptr;
-  const DWORD count = 0;
-  RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_SET_VALUE | KEY_CREATE_SUB_KEY,
-                  nullptr, &key, nullptr);
-  RegSetValueExW(key, ListCount, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&count), sizeof count);
+  const std::wstring path = std::wstring(Settings) + L"ContextMenu\\" + name;
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS)
+    return;
+  Read(key, L"MruFileCount");
+  for (int i = 1; i <= entries; ++i) Read(key, (L"Mru" + std::to_wstring(i)).c_str());
   RegCloseKey(key);
 }
 
@@ -156,38 +148,45 @@ class Pictures {
 
 }  // namespace
 
-void BareRightClick::operator()() const {
-  constexpr const wchar_t* history = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
-  constexpr const wchar_t* quickAccess =
-      L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
+void BareHandler(int listEntries) {
   ReadSettings();
-  ReadList(history);
-  ReadList(quickAccess);
-  ReadList(L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\");
+  ReadList(L"HistoryMRU", listEntries);
+  ReadList(L"QuickAccessMRU", listEntries);
+  ReadList(L"CopyTo", 0);
+}
+
+void BareRightClick::operator()() const {
+  BareHandler(listEntries);
   wchar_t path[MAX_PATH];
   SHGetPathFromIDListW(folder, path);
   GetFileAttributesW(config.c_str());
   ReadFileWhole(config);
-  Pictures pictures;
+  Pictures loaded;
   std::vector<HBITMAP> icons;
-  if (!kinds.empty()) {
-    for (int resource = 101; resource <= 109; ++resource) pictures.Load(resource);
-    for (const std::wstring& kind : kinds) icons.push_back(pictures.Fetch(kind));
-  }
+  for (const int picture : pictures) loaded.Load(100 + picture);
+  for (const std::wstring& kind : kinds) icons.push_back(loaded.Fetch(kind));
   const HMENU menu = CreatePopupMenu();
   const HMENU root = CreatePopupMenu();
   InsertMenuW(menu, 0, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
+  UINT id = 1;
+  std::vector<HMENU> targets;
+  for (int i = 0; i < popups; ++i) {
+    targets.push_back(CreatePopupMenu());
+    Insert(root, id++, L"Popup 10", ownerDraw ? MFT_OWNERDRAW : MFT_STRING, targets.back());
+  }
+  if (targets.empty()) targets.push_back(root);
   for (std::size_t i = 0; i < files.size(); ++i) {
     if (!icons.empty()) GetFileAttributesW(files[i].c_str());
-    Insert(root, static_cast<UINT>(i + 1), L"Document 1000", MFT_STRING, nullptr,
+    Insert(targets[i % targets.size()], id++, L"Document 1000",
+           ownerDraw ? MFT_OWNERDRAW : MFT_STRING, nullptr,
            icons.empty() ? nullptr : icons[i % icons.size()]);
   }
+  for (int i = 0; i < 2 * listEntries + extras; ++i)
+    Insert(root, id++, L"Recent 1", ownerDraw ? MFT_OWNERDRAW : MFT_STRING);
   AppendMenuW(root, MF_SEPARATOR, 0, nullptr);
-  Insert(root, static_cast<UINT>(files.size() + 1), L"&Designer...");
+  Insert(root, id++, L"&Designer...");
   Insert(menu, 0, L"Orvane", MFT_STRING, root);
   InsertMenuW(menu, 2, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
-  SaveList(history);
-  SaveList(quickAccess);
   DestroyMenu(menu);
 }
 
@@ -199,6 +198,42 @@ void BareFolder(const std::wstring& folder, HMENU menu) {
   do Insert(menu, id++, found.cFileName, MFT_OWNERDRAW);
   while (FindNextFileW(walk, &found));
   FindClose(walk);
+}
+
+void BarePainting(HDC context, const std::vector<std::wstring>& names,
+                  const std::vector<std::wstring>& kinds) {
+  Pictures loaded;
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  const HFONT font = CreateFontIndirectW(&metrics.lfMenuFont);
+  const HDC memory = CreateCompatibleDC(nullptr);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const RECT area{0, 0, 200, 20};
+    RECT text{25, 3, 200, 20};
+    const HGDIOBJ oldFont = SelectObject(context, font);
+    const HBRUSH brush = CreateSolidBrush(GetSysColor(COLOR_MENU));
+    const HPEN pen = CreatePen(PS_SOLID, 1, GetSysColor(COLOR_MENU));
+    const HGDIOBJ oldBrush = SelectObject(context, brush);
+    const HGDIOBJ oldPen = SelectObject(context, pen);
+    Rectangle(context, area.left, area.top, 22, area.bottom);
+    Rectangle(context, 23, area.top, area.right, area.bottom);
+    const int mode = SetBkMode(context, TRANSPARENT);
+    const COLORREF colour = SetTextColor(context, GetSysColor(COLOR_MENUTEXT));
+    DrawTextW(context, names[i].c_str(), -1, &text, 0);
+    SetTextColor(context, colour);
+    SetBkMode(context, mode);
+    SelectObject(context, oldPen);
+    SelectObject(context, oldBrush);
+    DeleteObject(pen);
+    DeleteObject(brush);
+    const HGDIOBJ oldBitmap = SelectObject(memory, loaded.Fetch(kinds[i % kinds.size()]));
+    BitBlt(context, 4, 2, 16, 16, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, oldBitmap);
+    SelectObject(context, oldFont);
+  }
+  DeleteDC(memory);
+  DeleteObject(font);
 }
 
 }  // namespace orvane::host

@@ -1,7 +1,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <vector>
 
 #include "host/BareCalls.h"
@@ -12,12 +11,18 @@
 #include "host/Modes.h"
 #include "host/Scene.h"
 #include "menudata/clsOrvaneData.h"
+#include "support/Scrambler.h"
 
 namespace orvane::host {
 namespace {
 
-constexpr const wchar_t* Kinds[] = {L".txt", L".doc", L".pdf", L".jpg", L".zip",
-                                    L".htm", L".xml", L".wav", L".log", L".csv"};
+using Data = clsOrvaneData;
+
+const std::vector<std::wstring> Kinds = {
+    L".txt", L".doc", L".pdf", L".jpg", L".zip", L".htm", L".xml", L".wav", L".log", L".csv",
+    L".png", L".gif", L".mp3", L".avi", L".ini", L".rtf", L".tar", L".bmp", L".tif", L".css"};
+constexpr int Popups = 20;
+constexpr int ListEntries = 3;
 
 void RightClickOnce(IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
   const HMENU menu = CreatePopupMenu();
@@ -31,84 +36,208 @@ void RightClickOnce(IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
   DestroyMenu(menu);
 }
 
-void PrintHeader(const char* what) {
-  std::printf("%-24s entries  calls alone       orvane    ratio   (medians, milliseconds)\n", what);
-}
-
-void PrintRow(std::size_t entries, const std::vector<double>& bare,
-              const std::vector<double>& whole) {
-  std::printf("%32zu %12.3f %12.3f %8.2f\n", entries, Median(bare), Median(whole),
-              Median(whole) / Median(bare));
-}
-
-void CompareRightClick(IClassFactory* factory, const BareRightClick& bareCalls) {
-  std::vector<double> bare, whole;
-  for (int run = 0; run < 60; ++run) {
-    bare.push_back(Milliseconds(bareCalls));
-    whole.push_back(Milliseconds([&] { RightClickOnce(factory, bareCalls.folder); }));
+/// Loads the library, makes its first menu and lets it go.
+void FirstMenu(const std::wstring& library, PCIDLIST_ABSOLUTE folder) {
+  const HMODULE module = LoadLibraryW(library.c_str());
+  using GetClass = HRESULT WINAPI(REFCLSID, REFIID, void**);
+  auto* getClass = reinterpret_cast<GetClass*>(
+      reinterpret_cast<void*>(GetProcAddress(module, "DllGetClassObject")));
+  {
+    ComPtr<IClassFactory> factory;
+    getClass(ClsidContextMenuHandler, IID_IClassFactory,
+             reinterpret_cast<void**>(factory.GetAddressOf()));
+    RightClickOnce(factory.Get(), folder);
   }
-  PrintRow(bareCalls.files.size(), bare, whole);
+  FreeLibrary(module);
 }
 
-void BenchText(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
-  PrintHeader("right-click, text");
-  const std::wstring config = scene.Path(L"Menu.cfg");
-  for (const int items : {100, 1000, 5000}) {
-    WriteFileItems(config, items);
-    CompareRightClick(
-        factory, {config, folder, std::vector<std::wstring>(static_cast<std::size_t>(items)), {}});
+void BenchFirstMenu(Scene& scene, PCIDLIST_ABSOLUTE folder) {
+  scene.PlainText();
+  WriteFileItems(scene.Path(L"Menu.cfg"), 20);
+  const std::wstring empty =
+      std::filesystem::path(LibraryPath()).replace_filename(L"empty_handler.dll").wstring();
+  Compare(
+      "DLL loaded and first menu", 30, [&] { FirstMenu(LibraryPath(), folder); },
+      [&] { FirstMenu(empty, folder); });
+}
+
+void BenchHandler(Scene& scene, IClassFactory* factory) {
+  scene.Set(L"ShellShowIcons", 3);
+  Compare(
+      "handler without a menu", 200,
+      [&] {
+        ComPtr<IShellExtInit> init;
+        factory->CreateInstance(nullptr, IID_IShellExtInit,
+                                reinterpret_cast<void**>(init.GetAddressOf()));
+      },
+      [] { BareHandler(0); });
+}
+
+/// As entries of the lists are stored.
+std::wstring Enciphered(const std::string& text) {
+  std::vector<std::byte> bytes;
+  for (const char character : text) bytes.push_back(static_cast<std::byte>(character));
+  Scrambler(L"QWXKRTZPV").Scramble(bytes);
+  std::wstring result(bytes.size(), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, reinterpret_cast<const char*>(bytes.data()),
+                      static_cast<int>(bytes.size()), result.data(),
+                      static_cast<int>(result.size()));
+  return result;
+}
+
+/// Fills both lists with folders, as commands would have.
+void FillLists(Scene& scene) {
+  for (const wchar_t* list : {L"HistoryMRU", L"QuickAccessMRU"}) {
+    const std::wstring key = std::wstring(L"Software\\Tarnwick\\Orvane\\ContextMenu\\") + list;
+    const DWORD count = ListEntries;
+    RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"MruFileCount", REG_DWORD, &count,
+                    sizeof count);
+    for (int i = 1; i <= ListEntries; ++i) {
+      const std::wstring text = Enciphered("1,0,\"C:\\Work\",\"Recent " + std::to_string(i) + "\"");
+      RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), (L"Mru" + std::to_wstring(i)).c_str(), REG_SZ,
+                      text.c_str(), static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+    }
   }
+  for (const wchar_t* name : {L"ShellShowHistoryMRU", L"ShellShowQuickAccessMRU"})
+    scene.Set(name, 2);
+}
+
+/// Entries below twenty popups, both lists, and every picture that a background click shows.
+void BenchRightClick(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder, int entries) {
+  std::vector<DefinitionItem> items = {{0, Data::TypeRoot, 0, {L"Orvane"}}};
+  for (int i = 0; i < Popups; ++i)
+    items.push_back({1, Data::TypePopupMenu, 0, {L"Popup " + std::to_wstring(i)}});
+  for (int i = 0; i < entries; ++i) {
+    const std::wstring name = L"Document " + std::to_wstring(i);
+    items.push_back({2 + i % Popups, Data::TypeFile, 0, {L"C:\\Work\\" + name + L".txt", name}});
+  }
+  items.push_back({1, Data::TypeFolder, 0, {scene.Folder(), L"This folder"}});
+  items.push_back({1, Data::TypeFolder, 0, {L"C:\\Work", L"Work"}});
+  items.push_back({1, Data::TypeCustomAction, 0, {L"Action", L"x"}});
+  BareRightClick bare{scene.Path(L"Menu.cfg"), folder,
+                      std::vector<std::wstring>(static_cast<std::size_t>(entries))};
+  bare.pictures = {1, 2, 3, 4, 5, 7};
+  bare.popups = Popups;
+  bare.listEntries = ListEntries;
+  bare.extras = 8;
+  bare.ownerDraw = true;
+  WriteDefinition(bare.config, items);
+  const std::string work = "right-click, " + std::to_string(entries) + " entries";
+  Compare(
+      work.c_str(), 60, [&] { RightClickOnce(factory, folder); }, bare);
+}
+
+void BenchRightClicks(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
+  scene.Set(L"ShellOwnerDraw", 1);
+  scene.Set(L"ShellShowIcons", 3);
+  scene.Set(L"ShellUseOwnFolderBitmap", 1);
+  FillLists(scene);
+  for (const int entries : {100, 1000, 5000}) BenchRightClick(scene, factory, folder, entries);
+  for (const wchar_t* name : {L"ShellShowHistoryMRU", L"ShellShowQuickAccessMRU"})
+    scene.Set(name, 0);
 }
 
 void BenchIcons(Scene& scene, IClassFactory* factory, PCIDLIST_ABSOLUTE folder) {
-  PrintHeader("right-click, icon level 3");
-  scene.Set(L"ShellShowIcons", 3);
-  BareRightClick bare{scene.Path(L"Menu.cfg"), folder, {}, {std::begin(Kinds), std::end(Kinds)}};
-  std::vector<DefinitionItem> items = {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}}};
-  for (std::size_t i = 0; i < 50; ++i) {
-    const std::wstring name = L"Icon " + std::to_wstring(i) + Kinds[i % std::size(Kinds)];
+  scene.Set(L"ShellOwnerDraw", 0);
+  BareRightClick bare{scene.Path(L"Menu.cfg"), folder, {}, Kinds, {1}};
+  std::vector<DefinitionItem> items = {{0, Data::TypeRoot, 0, {L"Orvane"}}};
+  for (std::size_t i = 0; i < 1000; ++i) {
+    const std::wstring name = L"Icon " + std::to_wstring(i) + Kinds[i % Kinds.size()];
     bare.files.push_back(scene.Path(name.c_str()));
     std::ofstream(std::filesystem::path(bare.files.back())) << "x";
-    items.push_back({1, clsOrvaneData::TypeFile, 0, {bare.files.back(), name}});
+    items.push_back({1, Data::TypeFile, 0, {bare.files.back(), name}});
   }
   WriteDefinition(bare.config, items);
-  CompareRightClick(factory, bare);
+  Compare(
+      "icons of 1000 files", 15, [&] { RightClickOnce(factory, folder); }, bare);
 }
+
+/// A folder of files of twenty kinds, shown by a dynamic folder.
+class Many {
+ public:
+  Many(Scene& scene, std::size_t files) : m_folder(scene.Path(L"Many")) {
+    std::filesystem::create_directory(m_folder);
+    for (std::size_t i = 0; i < files; ++i) {
+      m_names.push_back(L"File " + std::to_wstring(i) + Kinds[i % Kinds.size()]);
+      std::ofstream{m_folder / m_names.back()};
+    }
+    scene.Set(L"ShellShowIcons", 3);
+    scene.Set(L"ShellOwnerDraw", 1);
+    scene.Set(L"ShellIgnoreBoundsCheck", 1);
+    WriteDefinition(scene.Path(L"Menu.cfg"),
+                    {{0, Data::TypeRoot, 0, {L"Orvane"}},
+                     {1, Data::TypeDynamicFolder, 0, {m_folder.wstring(), L"Many", L"", L"0"}}});
+  }
+  ~Many() { std::filesystem::remove_all(m_folder); }
+  Many(const Many&) = delete;
+  Many& operator=(const Many&) = delete;
+
+  std::wstring Folder() const { return m_folder.wstring(); }
+  const std::vector<std::wstring>& Names() const { return m_names; }
+
+ private:
+  std::filesystem::path m_folder;
+  std::vector<std::wstring> m_names;
+};
+
+/// A right-click whose one dynamic folder is opened.
+struct OpenFolder {
+  explicit OpenFolder(Scene& scene) : click(scene.Folder(), nullptr) {
+    click.Query();
+    submenu = GetSubMenu(GetSubMenu(click.menu, 1), 0);
+  }
+  void Send(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT result = 0;
+    click.handler->HandleMenuMsg2(message, wParam, lParam, &result);
+  }
+  void Open() { Send(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(submenu), 0); }
+
+  RightClick click;
+  HMENU submenu = nullptr;
+};
 
 void BenchFolder(Scene& scene, std::size_t files) {
-  const std::filesystem::path folder = scene.Path(L"Many");
-  std::filesystem::create_directory(folder);
-  for (std::size_t i = 0; i < files; ++i)
-    std::ofstream(folder / (L"File " + std::to_wstring(i) + Kinds[i % std::size(Kinds)]));
+  const Many many(scene, files);
   std::vector<double> bare, whole;
-  for (int run = 0; run < 15; ++run) {
+  for (int run = 0; run < 25; ++run) {
     const HMENU menu = CreatePopupMenu();
-    bare.push_back(Milliseconds([&] { BareFolder(folder.wstring(), menu); }));
+    bare.push_back(Milliseconds([&] { BareFolder(many.Folder(), menu); }));
     DestroyMenu(menu);
-    RightClick click(scene.Folder(), nullptr);
-    click.Query();
-    const HMENU submenu = GetSubMenu(GetSubMenu(click.menu, 1), 0);
-    LRESULT result = 0;
-    whole.push_back(Milliseconds([&] {
-      click.handler->HandleMenuMsg2(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(submenu), 0,
-                                    &result);
-    }));
-    if (static_cast<std::size_t>(GetMenuItemCount(submenu)) != files) std::puts("not all listed");
+    OpenFolder open(scene);
+    whole.push_back(Milliseconds([&] { open.Open(); }));
+    if (static_cast<std::size_t>(GetMenuItemCount(open.submenu)) != files)
+      std::fprintf(stderr, "not all listed\n");
   }
-  PrintRow(files, bare, whole);
-  std::filesystem::remove_all(folder);
+  PrintRow(("dynamic folder, " + std::to_string(files) + " files").c_str(), whole, bare);
 }
 
-void BenchFolders(Scene& scene) {
-  PrintHeader("dynamic folder, opened");
-  scene.Set(L"ShellShowIcons", 3);
-  scene.Set(L"ShellOwnerDraw", 1);
-  scene.Set(L"ShellIgnoreBoundsCheck", 1);  // more entries than identifiers are reserved for
-  WriteDefinition(
-      scene.Path(L"Menu.cfg"),
-      {{0, clsOrvaneData::TypeRoot, 0, {L"Orvane"}},
-       {1, clsOrvaneData::TypeDynamicFolder, 0, {scene.Path(L"Many"), L"Many", L"", L"0"}}});
-  for (const std::size_t files : {100, 1000, 5000, 20000}) BenchFolder(scene, files);
+void BenchPainting(Scene& scene) {
+  const Many many(scene, 40);
+  const HDC context = CreateCompatibleDC(nullptr);
+  const HDC screen = GetDC(nullptr);
+  const HBITMAP surface = CreateCompatibleBitmap(screen, 200, 20);
+  ReleaseDC(nullptr, screen);
+  const HGDIOBJ old = SelectObject(context, surface);
+  std::vector<double> bare, whole;
+  for (int run = 0; run < 25; ++run) {
+    bare.push_back(Milliseconds([&] { BarePainting(context, many.Names(), Kinds); }));
+    OpenFolder open(scene);
+    open.Open();
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_MENU;
+    draw.hDC = context;
+    draw.rcItem = {0, 0, 200, 20};
+    whole.push_back(Milliseconds([&] {
+      for (int i = 0; i < 40; ++i) {
+        draw.itemID = GetMenuItemID(open.submenu, i);
+        open.Send(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+      }
+    }));
+  }
+  SelectObject(context, old);
+  DeleteObject(surface);
+  DeleteDC(context);
+  PrintRow("first painting of 40 entries", whole, bare);
 }
 
 }  // namespace
@@ -116,22 +245,25 @@ void BenchFolders(Scene& scene) {
 int RunBench() {
   const Apartment apartment;
   Scene scene;
-  scene.PlainText();
   scene.Set(L"ShellConfigFile", scene.Path(L"Menu.cfg"));
   scene.Set(L"ShellCustomActionsFile", L"");
-  scene.Set(L"ShellShowQuickAccessMRU", 0);
-  scene.Set(L"ShellShowFlags", 0);
+  for (const wchar_t* name :
+       {L"ShellShowHistoryMRU", L"ShellShowQuickAccessMRU", L"ShellShowFlags"})
+    scene.Set(name, 0);
+  const UniquePidl folder = ParsePath(scene.Folder());
+  BenchFirstMenu(scene, folder.get());
   ComPtr<IClassFactory> factory;
   if (FAILED(CoGetClassObject(ClsidContextMenuHandler, CLSCTX_INPROC_SERVER, nullptr,
                               IID_IClassFactory,
                               reinterpret_cast<void**>(factory.GetAddressOf())))) {
-    std::puts("orvane.dll is not registered");
+    std::fprintf(stderr, "orvane.dll is not registered\n");
     return 1;
   }
-  const UniquePidl folder = ParsePath(scene.Folder());
-  BenchText(scene, factory.Get(), folder.get());
+  BenchHandler(scene, factory.Get());
+  BenchRightClicks(scene, factory.Get(), folder.get());
   BenchIcons(scene, factory.Get(), folder.get());
-  BenchFolders(scene);
+  for (const std::size_t files : {100, 1000, 10'000}) BenchFolder(scene, files);
+  BenchPainting(scene);
   return 0;
 }
 

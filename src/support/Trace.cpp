@@ -6,9 +6,7 @@
 namespace orvane {
 
 clsTrace* ActiveDebugTrace() {
-  // Nearly always nobody logs, and then the thread's own state, which the Windows build takes tens
-  // of nanoseconds to find, need not be looked up for each of a menu's thousands of lines.
-  if (!clsTrace::IsAnyInitialised()) return nullptr;
+  if (!IsAnyTraceInitialised()) return nullptr;
   const ThreadState* thread = ThreadState::Current();
   if (!thread || !thread->debug || !thread->debug->IsInitialised()) return nullptr;
   return thread->debug;
@@ -26,7 +24,7 @@ void LogLine(const std::wstring& line) {
   if (clsTrace* trace = ActiveDebugTrace()) trace->Output(line, 0);
 }
 
-TraceScope::TraceScope(std::wstring_view operation) noexcept {
+void TraceScope::Enter(std::wstring_view operation) noexcept {
   clsTrace* trace = ActiveDebugTrace();
   if (!trace) return;
   try {
@@ -35,8 +33,7 @@ TraceScope::TraceScope(std::wstring_view operation) noexcept {
   }
 }
 
-TraceScope::~TraceScope() {
-  // The operation may have switched the trace on or off.
+void TraceScope::Leave() const noexcept {
   clsTrace* trace = ActiveDebugTrace();
   if (!trace) return;
   try {

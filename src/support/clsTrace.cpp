@@ -7,6 +7,7 @@
 #include "support/Number.h"
 #include "support/ProductName.h"
 #include "support/ThreadState.h"
+#include "support/Trace.h"
 #include "support/Utf16.h"
 
 namespace orvane {
@@ -72,7 +73,7 @@ bool clsTrace::Initialize(const std::wstring& file, std::int32_t flags) {
   else if (!(flags & FlagAutoCommit) && !file.empty())
     OpenOutputFile(true);
   m_bInitialised = true;
-  ++s_initialised;
+  ++initialisedTraces;
   return true;
 }
 
@@ -81,7 +82,7 @@ void clsTrace::Terminate() {
   m_szFile.clear();
   m_lFlags = 0;
   m_lIndent = 0;
-  if (m_bInitialised) --s_initialised;
+  if (m_bInitialised) --initialisedTraces;
   m_bInitialised = false;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -51,8 +50,6 @@ class clsTrace {
   const std::wstring& Password() const { return m_szPassword; }
   void Password(std::wstring password);
   bool IsInitialised() const { return m_bInitialised; }
-  /// Whether any trace of the process, of whatever thread, is initialised.
-  static bool IsAnyInitialised() { return s_initialised.load(std::memory_order_relaxed) > 0; }
 
   bool Initialize(const std::wstring& file, std::int32_t flags);
   void Terminate();
@@ -94,8 +91,6 @@ class clsTrace {
   std::wstring Timestamp() const;
   std::int32_t& Slot(std::int16_t timer);
   std::int32_t SinceSlot(std::int16_t timer);
-
-  static inline constinit std::atomic<int> s_initialised = 0;
 
   FileSystem& m_files;
   MessageBoxes& m_boxes;
