@@ -10,6 +10,8 @@
 #include <malloc.h>
 #endif
 
+#include "commands/ClipboardLines.h"
+#include "commands/TaskLists.h"
 #include "commands/frmClipboardProgress.h"
 #include "memory/DataObject.h"
 #include "memory/Desktop.h"
@@ -41,16 +43,6 @@ struct Tree {
   memory::DataObject selection{L"C:\\Tree"};
 };
 
-/// The memory desktop's own keeps several copies of a text.
-class NoClipboard : public Clipboard {
- public:
-  bool Clear() override { return true; }
-  bool SetText(const std::wstring& text) override {
-    benchmark::DoNotOptimize(text.data());
-    return true;
-  }
-};
-
 memory::DataObject Names(std::int64_t count) {
   FileNames names;
   for (std::int64_t i = 0; i < count; ++i)
@@ -69,12 +61,17 @@ clsOrvaneData Task() {
 
 std::size_t Build(memory::Desktop& desktop, memory::DataObject& selection,
                   const clsOrvaneData* task, bool recursive) {
-  NoClipboard clipboard;
-  frmClipboardProgress form(desktop.files, clipboard);
-  form.m_pSelection = &selection;
-  form.m_Data = task;
-  form.BuildSelectionList(recursive);
-  return form.m_szFile.size();
+  const auto build = [&](NameList& list) {
+    frmClipboardProgress(desktop.files, &selection, list, false, L"").BuildSelectionList(recursive);
+  };
+  if (!task) {
+    ClipboardLines lines;
+    build(lines);
+    return lines.Text().size();
+  }
+  TaskLists lists(*task, false);
+  build(lists);
+  return lists.File().size();
 }
 
 /// What cannot be done without: a copy of the selection, and the two texts made of it.

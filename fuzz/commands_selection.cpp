@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "commands/CopyNames.h"
+#include "commands/TaskLists.h"
 #include "commands/frmClipboardProgress.h"
 #include "memory/DataObject.h"
 #include "memory/Desktop.h"
@@ -55,11 +57,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   orvane::memory::Desktop desktop;
   orvane::FileNames names;
   std::wstring expected;
-  std::wstring lines;
+  std::wstring copied;
   for (std::size_t i = 4; i < parts.size(); ++i) {
     const std::wstring& name = parts[i];
     names.Add(name);
-    lines += name + L"\r\n";
+    copied += name + L"\r\n";
     if (name.find(L'"') != name.npos || !Qualifies(name, parts[0])) continue;
     if (!parts[0].empty() && orvane::IsDirectory(desktop.files, name)) continue;
     const bool quoted = task.m_lSelection_Options != 0 && name.find(L' ') != name.npos;
@@ -67,15 +69,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
 
   orvane::memory::DataObject selection(names);
-  orvane::frmClipboardProgress form(desktop.files, desktop.clipboard);
-  form.m_pSelection = &selection;
-  form.m_Data = &task;
-  form.BuildSelectionList(false);
-  if (form.m_szCmdLine != expected) std::abort();
+  orvane::TaskLists lists(task, false);
+  orvane::frmClipboardProgress(desktop.files, &selection, lists, false, L"")
+      .BuildSelectionList(false);
+  if (lists.CmdLine() != expected) std::abort();
 
-  orvane::frmClipboardProgress copy(desktop.files, desktop.clipboard);
-  copy.m_pSelection = &selection;
-  copy.BuildSelectionList(false);
-  if (desktop.clipboard.text != lines) std::abort();
+  orvane::CopyNamesToClipboard(desktop.Bundle(), {}, &selection, false, false);
+  if (desktop.clipboard.text != copied) std::abort();
   return 0;
 }

@@ -1,5 +1,6 @@
 #include "designer/TaskText.h"
 
+#include "commands/TaskLists.h"
 #include "commands/frmClipboardProgress.h"
 #include "support/clsSprintf.h"
 
@@ -11,16 +12,15 @@ TaskText TaskTextOf(clsOrvaneData task, const Sample& sample, const Platform& pl
                           &task.m_szSelection_FilePrefix, &task.m_szSelection_FileSuffix})
     *text = clsSprintf::TreatBackSlash(*text, services.codePage);
   SampleSelection selection(sample);
-  frmClipboardProgress form(platform.files, platform.clipboard);
-  form.m_pSelection = &selection;
-  form.m_Data = &task;
-  form.m_bShortNames = task.SelectionOptions_IsShortNames() != 0;
-  form.BuildSelectionList(false);
+  const bool shortNames = task.SelectionOptions_IsShortNames() != 0;
+  TaskLists lists(task, shortNames);
+  frmClipboardProgress(platform.files, &selection, lists, shortNames, L"")
+      .BuildSelectionList(false);
   clsCustomActions parameters(services);
   parameters.m_szActions = task.m_szSelection_Parms;
   return {task.m_szSelection_Command + L" " +
-              parameters.BuildActionString(L"<item goes here>", form.m_szCmdLine),
-          form.m_szFile};
+              parameters.BuildActionString(L"<item goes here>", lists.CmdLine()),
+          lists.File()};
 }
 
 }  // namespace orvane::designer
