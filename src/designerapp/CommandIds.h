@@ -11,7 +11,7 @@
 #define ID_FILE_IMPORT 40005
 #define ID_FILE_EXPORT 40006
 #define ID_FILE_EXIT 40007
-#define ID_FILE_RECENT 40020  // the first of 10 in a row
+#define ID_FILE_RECENT 40020  // the first of RECENT_COUNT in a row
 #define RECENT_COUNT 9
 
 #define ID_EDIT_UNDO 40101
@@ -55,6 +55,8 @@
 #define IDC_TREE 1001
 #define IDC_FINDINGS 1002
 #define IDC_STATUS 1003
+
+#define IDS_VERSION 201
 
 #define IDD_FIND 301
 #define IDC_FIND_TEXT 1101

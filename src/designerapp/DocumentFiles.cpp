@@ -63,14 +63,24 @@ bool DocumentFiles::Open() {
   if (!MayLeave()) return false;
   const std::wstring path = AskFile(m_owner, Files::Menus, m_program.document.File().Path());
   if (path.empty()) return false;
-  m_program.document.Open(path);
+  Read(path);
   return true;
 }
 
 bool DocumentFiles::Open(const std::wstring& path) {
   if (!MayLeave()) return false;
-  m_program.document.Open(path);
+  Read(path);
   return true;
+}
+
+void DocumentFiles::Read(const std::wstring& path) {
+  m_program.document.Open(path);
+  Remember(path);
+}
+
+void DocumentFiles::Remember(const std::wstring& path) {
+  m_program.recent.AddFile(path);
+  m_program.recent.Save();
 }
 
 bool DocumentFiles::Save() {
@@ -91,6 +101,7 @@ bool DocumentFiles::SaveAs() {
 bool DocumentFiles::Write(const std::wstring& path) {
   try {
     m_program.document.Save(path);
+    Remember(path);
     return true;
   } catch (const UnwritableText& error) {
     Ask(InWords(m_program.document, error, m_program.document.ItemAt(error.Item())),

@@ -31,6 +31,8 @@ class DocumentFiles {
 
  private:
   bool Write(const std::wstring& path);
+  void Read(const std::wstring& path);
+  void Remember(const std::wstring& path);
   int Ask(const std::wstring& text, UINT style) const;
 
   Program& m_program;

@@ -25,6 +25,7 @@ using UniqueFont = Unique<HFONT, &DeleteObject>;
 using UniqueBitmap = Unique<HBITMAP, &DeleteObject>;
 using UniqueIcon = Unique<HICON, &DestroyIcon>;
 using UniqueMenu = Unique<HMENU, &DestroyMenu>;
+using UniqueKeys = Unique<HACCEL, &DestroyAcceleratorTable>;
 using UniqueImageList = Unique<HIMAGELIST, &ImageList_Destroy>;
 
 }  // namespace orvane::designerapp

@@ -63,6 +63,10 @@ bool MainWindow::Command(int id) {
 
 bool MainWindow::FileCommand(int id) {
   bool isOther = false;
+  if (id >= ID_FILE_RECENT && id < ID_FILE_RECENT + RECENT_COUNT) {
+    if (m_files.Open(m_program.recent.File(id - ID_FILE_RECENT + 1))) ShowDocument();
+    return true;
+  }
   switch (id) {
     case ID_FILE_NEW:
       isOther = m_files.New();
@@ -243,8 +247,7 @@ bool MainWindow::HelpCommand(int id) {
   if (id == ID_HELP_GUIDE)
     Guide();
   else if (id == ID_HELP_ABOUT)
-    MessageBoxW(Handle(), L"Orvane Designer 1.0\n\nCopyright (c) Tarnwick", L"Orvane Designer",
-                MB_OK | MB_ICONINFORMATION);
+    About();
   else
     return false;
   return true;
@@ -399,6 +402,14 @@ void MainWindow::NextPart() {
     SetFocus(m_findings.Handle());
   else
     SetFocus(m_tree.Handle());
+}
+
+void MainWindow::About() {
+  wchar_t version[128] = L"";
+  LoadStringW(m_program.instance, IDS_VERSION, version, 128);
+  MessageBoxW(Handle(),
+              (std::wstring(L"Orvane Designer ") + version + L"\n\nCopyright (c) Tarnwick").c_str(),
+              L"Orvane Designer", MB_OK | MB_ICONINFORMATION);
 }
 
 void MainWindow::Guide() {

@@ -4,7 +4,11 @@
 #include <shellapi.h>
 #include <windowsx.h>
 
+#include <utility>
+
 #include "designerapp/CommandIds.h"
+#include "designerapp/OneInstance.h"
+#include "designerapp/Placement.h"
 #include "designerapp/Scale.h"
 
 namespace orvane::designerapp {
@@ -12,6 +16,10 @@ namespace {
 
 constexpr UINT_PTR CheckTimer = 1;
 constexpr UINT CheckDelay = 300;  // milliseconds after the last edit
+
+// The window's own messages to itself.
+constexpr UINT LookMessage = WM_APP;
+constexpr UINT HandOverMessage = WM_APP + 1;
 
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
@@ -35,14 +43,19 @@ MainWindow::MainWindow(Program& program)
 
 void MainWindow::Open(const std::wstring& path, int show) {
   const RECT place{CW_USEDEFAULT, 0, CW_USEDEFAULT, 0};
-  Create({L"OrvaneDesigner", L"Orvane Designer", Style, WS_EX_ACCEPTFILES}, place, nullptr,
+  Create({MainWindowClass, L"Orvane Designer", Style, WS_EX_ACCEPTFILES}, place, nullptr,
          LoadMenuW(m_program.instance, MAKEINTRESOURCEW(IDR_MAIN)));
   const UINT dpi = DpiOf(Handle());
   SetWindowPos(Handle(), nullptr, 0, 0, Scaled(900, dpi), Scaled(620, dpi),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   m_files.Owner(Handle());
+  m_recent.Attach(GetSubMenu(GetMenu(Handle()), 0));
+  m_program.recent.FileMenu(&m_recent);
+  m_program.recent.UpdateFileMenu({});
   ShowDocument();
-  ShowWindow(Handle(), show);
+  if (!m_program.globals.g_Options.m_bGeneralSaveWindowPos ||
+      !RestorePlacement(Handle(), m_program.platform.registry, show))
+    ShowWindow(Handle(), show);
   UpdateWindow(Handle());
   try {
     m_files.Start(path);
@@ -55,8 +68,9 @@ void MainWindow::Open(const std::wstring& path, int show) {
 bool MainWindow::Translate(MSG& message) {
   const HWND focus = GetFocus();
   const bool editsLabel = TreeView_GetEditControl(m_tree.Handle()) != nullptr;
-  if (!editsLabel && TranslateAcceleratorW(Handle(), m_keys, &message)) return true;
-  if (!IsTextField(focus) && TranslateAcceleratorW(Handle(), m_treeKeys, &message)) return true;
+  if (!editsLabel && TranslateAcceleratorW(Handle(), m_keys.get(), &message)) return true;
+  if (!IsTextField(focus) && TranslateAcceleratorW(Handle(), m_treeKeys.get(), &message))
+    return true;
   return !editsLabel && IsDialogMessageW(Handle(), &message);
 }
 
@@ -199,10 +213,22 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE) break;
-      PostMessageW(Handle(), WM_APP, 0, 0);  // when the click that brought it here is over
+      PostMessageW(Handle(), LookMessage, 0, 0);  // when the click that brought it here is over
       break;
-    case WM_APP:
+    case LookMessage:
       if (m_files.LookForChanges()) ShowDocument();
+      return 0;
+    case WM_COPYDATA: {
+      auto file = OneInstance::FileOf(*reinterpret_cast<const COPYDATASTRUCT*>(lParam));
+      if (!file) return FALSE;
+      HandedOver(*std::move(file));
+      return TRUE;
+    }
+    case HandOverMessage:
+      OpenHandedOver();
+      return 0;
+    case WM_ENABLE:
+      if (wParam && m_handedOver) PostMessageW(Handle(), HandOverMessage, 0, 0);
       return 0;
     case WM_SETFOCUS:
       SetFocus(m_tree.Handle());
@@ -213,6 +239,9 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
       if (m_files.MayLeave()) DestroyWindow(Handle());
       return 0;
     case WM_DESTROY:
+      if (m_program.globals.g_Options.m_bGeneralSaveWindowPos)
+        SavePlacement(Handle(), m_program.platform.registry);
+      m_program.recent.FileMenu(nullptr);
       m_program.document.Listen(nullptr);
       PostQuitMessage(0);
       return 0;
@@ -220,6 +249,21 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return Default(message, wParam, lParam);
+}
+
+/// The other start waits: what it wants is done when it has gone.
+void MainWindow::HandedOver(std::wstring file) {
+  if (IsIconic(Handle())) ShowWindow(Handle(), SW_RESTORE);
+  SetForegroundWindow(GetLastActivePopup(Handle()));
+  if (file.empty()) return;
+  m_handedOver = std::move(file);
+  PostMessageW(Handle(), HandOverMessage, 0, 0);
+}
+
+void MainWindow::OpenHandedOver() {
+  if (!m_handedOver || !IsWindowEnabled(Handle())) return;
+  const std::wstring file = *std::exchange(m_handedOver, std::nullopt);
+  if (m_files.Open(file)) ShowDocument();
 }
 
 void MainWindow::EditsHappened() {

@@ -7,6 +7,7 @@
 #include "designerapp/FindingsPane.h"
 #include "designerapp/PreviewMenu.h"
 #include "designerapp/PropertyPane.h"
+#include "designerapp/RecentMenu.h"
 #include "designerapp/TreePane.h"
 #include "designerapp/Window.h"
 
@@ -16,6 +17,7 @@ namespace orvane::designerapp {
 class MainWindow : public Window, private designer::EditListener {
  public:
   explicit MainWindow(Program& program);
+  ~MainWindow() override { Destroy(); }
 
   /// Shows the window and opens the file; empty: the one that the settings name.
   void Open(const std::wstring& path, int show);
@@ -40,6 +42,8 @@ class MainWindow : public Window, private designer::EditListener {
   LRESULT Notify(NMHDR& header);
   bool Command(int id);
   bool FileCommand(int id);
+  void HandedOver(std::wstring file);
+  void OpenHandedOver();
   bool EditCommand(int id);
   bool InsertCommand(int id);
   bool ViewCommand(int id);
@@ -67,6 +71,7 @@ class MainWindow : public Window, private designer::EditListener {
   void ContextMenu(LPARAM at);
   void Preview(POINT at);
   void NextPart();
+  void About();
   void Guide();
   void GoTo(designer::MenuItem* item, const std::string& field);
 
@@ -76,10 +81,12 @@ class MainWindow : public Window, private designer::EditListener {
   FindingsPane m_findings;
   PreviewMenu m_preview;
   DocumentFiles m_files;
+  RecentMenu m_recent;
+  std::optional<std::wstring> m_handedOver;  // by another start, until no dialog is open
   HWND m_status = nullptr;
   UniqueFont m_font;
-  HACCEL m_keys = nullptr;      // of the module, not to be destroyed
-  HACCEL m_treeKeys = nullptr;  // as above
+  UniqueKeys m_keys;
+  UniqueKeys m_treeKeys;  // where no text is edited
   std::wstring m_searched;
   bool m_dragging = false;
 };

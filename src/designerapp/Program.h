@@ -13,13 +13,10 @@ inline constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
 
 /// What the designer's windows share: the desktop, the settings and the menu that is designed.
 struct Program {
-  explicit Program(HINSTANCE instance)
-      : instance(instance),
-        desktop(instance),
-        platform(desktop.Bundle()),
-        globals(platform),
-        document(
-            designer::MenuFile(platform.files, globals.codePage, globals.g_Debug, globals.tools)) {}
+  explicit Program(HINSTANCE instance);
+
+  /// Reads the settings again.
+  void LoadSettings();
 
   HINSTANCE instance;
   win32::Desktop desktop;
@@ -27,6 +24,7 @@ struct Program {
   ModuleGlobals globals;
   designer::Document document;
   designer::Sample sample;
+  clsMRU recent;  // files that were opened or saved
 };
 
 }  // namespace orvane::designerapp

@@ -17,6 +17,7 @@ namespace orvane::designerapp {
 class PropertyPane : public Window {
  public:
   explicit PropertyPane(Program& program) : m_program(program) {}
+  ~PropertyPane() override { Destroy(); }
 
   void Create(HWND parent);
   void Resolution(UINT dpi, HFONT font);

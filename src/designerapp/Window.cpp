@@ -37,10 +37,6 @@ std::wstring Reason() {
 
 }  // namespace
 
-Window::~Window() {
-  if (m_window) DestroyWindow(m_window);
-}
-
 void Window::Create(const Look& look, const RECT& place, HWND parent, HMENU menu) {
   Register(look.className, Procedure);
   CreateWindowExW(look.exStyle, look.className, look.title, look.style, place.left, place.top,

@@ -17,7 +17,7 @@ class Window {
 
  protected:
   Window() = default;
-  virtual ~Window();
+  virtual ~Window() = default;
 
   struct Look {
     const wchar_t* className;
@@ -27,6 +27,12 @@ class Window {
   };
   /// Registers the class when needed. Error when the window cannot be made.
   void Create(const Look& look, const RECT& place, HWND parent, HMENU menu);
+
+  /// To be called by the destructor of each class that can be a window's last one, while its parts
+  /// are there to answer messages.
+  void Destroy() {
+    if (m_window) DestroyWindow(m_window);
+  }
 
   /// The answer to a message.
   virtual LRESULT Message(UINT message, WPARAM wParam, LPARAM lParam) = 0;

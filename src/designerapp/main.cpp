@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "designerapp/MainWindow.h"
+#include "designerapp/OneInstance.h"
 
 namespace {
 
@@ -21,13 +22,21 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
+std::wstring FullPath(const std::wstring& path) {
+  std::wstring full(32768, L'\0');
+  const DWORD length =
+      GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  full.resize(length < full.size() ? length : 0);
+  return full.empty() ? path : full;
+}
+
 /// The file that the command line names; empty without one.
 std::wstring FileOfCommandLine() {
   int count = 0;
   LPWSTR* arguments = CommandLineToArgvW(GetCommandLineW(), &count);
   std::wstring file = arguments && count > 1 ? arguments[1] : L"";
   LocalFree(arguments);
-  return file;
+  return file.empty() ? file : FullPath(file);
 }
 
 int Run(HINSTANCE instance, int show) {
@@ -37,9 +46,13 @@ int Run(HINSTANCE instance, int show) {
                                                            ICC_PROGRESS_CLASS};
   InitCommonControlsEx(&controls);
   Program program(instance);
-  program.globals.g_Options.Reset(program.platform.system);
+  const std::wstring file = FileOfCommandLine();
+  OneInstance instances;
+  if (!instances.IsFirst() && !program.globals.g_Options.m_bGeneralAllowMultipleInstances &&
+      OneInstance::HandOver(file))
+    return 0;
   MainWindow window(program);
-  window.Open(FileOfCommandLine(), show);
+  window.Open(file, show);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
     if (window.Translate(message)) continue;

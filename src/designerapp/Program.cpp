@@ -1,0 +1,36 @@
+#include "designerapp/Program.h"
+
+#include "designer/Rehearsal.h"
+
+namespace orvane::designerapp {
+namespace {
+
+constexpr std::int32_t RecentFiles = 9;
+
+}  // namespace
+
+Program::Program(HINSTANCE instance)
+    : instance(instance),
+      desktop(instance),
+      platform(desktop.Bundle()),
+      globals(platform),
+      document(
+          designer::MenuFile(platform.files, globals.codePage, globals.g_Debug, globals.tools)),
+      recent(platform.registry) {
+  LoadSettings();
+  recent.Path(L"Software\\Tarnwick\\Orvane\\Designer\\RecentFiles\\");
+  recent.Load(RecentFiles);
+}
+
+/// Loading them for a menu would start its log anew and warn of it.
+void Program::LoadSettings() {
+  const designer::Rehearsal quiet(platform);
+  const Platform& services = quiet.Bundle();
+  globals.g_Options.Reg_Load({services.registry, services.files, services.boxes, services.system,
+                              services.clock, services.locale},
+                             SettingsKey);
+  globals.g_Debug.Terminate();
+  globals.g_Timing.Terminate();
+}
+
+}  // namespace orvane::designerapp

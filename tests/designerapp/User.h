@@ -1,0 +1,25 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace orvane::test {
+
+/// Somebody at the keyboard: keys go through the system's queue to the window in front.
+class User {
+ public:
+  /// Types text and keys: "{F2}", "{DOWN}", "^" and "%" before a key hold Ctrl and Alt.
+  User& Type(const std::wstring& keys);
+  /// Lets the thread's windows do their work until nothing has happened for a while.
+  static void Wait(DWORD milliseconds = 250);
+
+ private:
+  void Key(WORD key, bool up);
+  void Letter(wchar_t letter);
+
+  std::vector<INPUT> m_events;
+};
+
+}  // namespace orvane::test
