@@ -54,9 +54,10 @@ std::wstring Waiting(std::uint32_t milliseconds) {
 }  // namespace
 
 std::optional<std::vector<std::byte>> RehearsedFiles::Read(const std::wstring& path,
-                                                           std::size_t limit) {
+                                                           std::size_t limit,
+                                                           const Patience& patience) {
   if (path == m_path) return m_bytes;
-  return m_real.Read(path, limit);
+  return m_real.Read(path, limit, patience);
 }
 
 std::unique_ptr<OutputFile> RehearsedFiles::OpenToWrite(const std::wstring& path, Open) {
@@ -145,10 +146,11 @@ bool RehearsedDialogs::ShowCopyTo(WindowHandle, CopyToModel& model) {
   return false;
 }
 
-void RehearsedDialogs::ShowProgress(WindowHandle, ProgressModel& model) {
+bool RehearsedDialogs::ShowProgress(WindowHandle, ProgressModel& model) {
   m_script.push_back(L"Collects the names in a window with a Cancel button.");
   BriefView view(model);
   model.Run(view);
+  return true;
 }
 
 Dialogs::Picked RehearsedDialogs::Browse(WindowHandle, const ItemIdList&, const std::wstring& title,

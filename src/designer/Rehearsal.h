@@ -36,10 +36,15 @@ class RehearsedFiles : public FileSystem {
     m_bytes = std::move(bytes);
   }
 
-  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit) override;
+  std::optional<std::vector<std::byte>> Read(const std::wstring& path, std::size_t limit,
+                                             const Patience& patience) override;
   std::optional<std::uint32_t> Attributes(const std::wstring& path,
                                           const Patience& patience) override {
     return m_real.Attributes(path, patience);
+  }
+  std::optional<FileIdentity> Identity(const std::wstring& path,
+                                       const Patience& patience) override {
+    return m_real.Identity(path, patience);
   }
   std::unique_ptr<DirectoryListing> List(const std::wstring& folder,
                                          const Patience& patience) override {
@@ -152,7 +157,7 @@ class RehearsedDialogs : public Dialogs {
   explicit RehearsedDialogs(Script& script) : m_script(script) {}
 
   bool ShowCopyTo(WindowHandle owner, CopyToModel& model) override;
-  void ShowProgress(WindowHandle owner, ProgressModel& model) override;
+  bool ShowProgress(WindowHandle owner, ProgressModel& model) override;
   Picked Browse(WindowHandle owner, const ItemIdList& root, const std::wstring& title,
                 std::uint32_t flags, BrowseModel& model) override;
 
