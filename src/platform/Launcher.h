@@ -27,7 +27,9 @@ struct Execution {
   std::wstring className = {};
 };
 
-/// Hands things to the shell: documents, programs, folders.
+/// Hands things to the shell: documents, programs, folders. A file that is a bare name is looked up
+/// among the registered programs, in the system's folders, in PATH and in the execution's
+/// directory, never in the current one.
 class Launcher {
  public:
   virtual ~Launcher() = default;

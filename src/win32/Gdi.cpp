@@ -196,19 +196,38 @@ std::optional<Colour> Gdi::TranslateColour(Colour colour, PaletteHandle palette)
   return translated & 0xFFFFFF;
 }
 
+namespace {
+
+BOOL CALLBACK FindMenu(HWND window, LPARAM found) {
+  wchar_t name[8];
+  const bool isMenu = GetClassNameW(window, name, 8) != 0 && wcscmp(name, L"#32768") == 0;
+  if (!isMenu || !IsWindowVisible(window)) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+/// Of the menu that is open and now opens another one; a keyboard opens it far from the pointer,
+/// which tells the screen of the first.
+HMONITOR ScreenOfMenu() {
+  HWND menu = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindMenu, reinterpret_cast<LPARAM>(&menu));
+  POINT pointer{};
+  if (!menu) GetCursorPos(&pointer);
+  return menu ? MonitorFromWindow(menu, MONITOR_DEFAULTTONEAREST)
+              : MonitorFromPoint(pointer, MONITOR_DEFAULTTONEAREST);
+}
+
+}  // namespace
+
 std::int32_t Gdi::Dpi() {
   // Only Windows 8.1 and later have a figure for each screen, in a library the shell has loaded.
   using DpiOfMonitor = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
   HMODULE library = GetModuleHandleW(L"shcore.dll");
   void* found =
       library ? reinterpret_cast<void*>(GetProcAddress(library, "GetDpiForMonitor")) : nullptr;
-  POINT pointer;
   UINT x = 0;
   UINT y = 0;
-  if (found && GetCursorPos(&pointer) &&
-      SUCCEEDED(reinterpret_cast<DpiOfMonitor>(found)(
-          MonitorFromPoint(pointer, MONITOR_DEFAULTTONEAREST), 0, &x, &y)) &&
-      y > 0)
+  if (found && SUCCEEDED(reinterpret_cast<DpiOfMonitor>(found)(ScreenOfMenu(), 0, &x, &y)) && y > 0)
     return static_cast<std::int32_t>(y);
 
   const UniqueScreen screen(*this, OpenScreen());

@@ -9,6 +9,7 @@
 #include "support/FullPath.h"
 #include "win32/NativeHandles.h"
 #include "win32/NativeItemIdList.h"
+#include "win32/ProgramPath.h"
 
 namespace orvane::win32 {
 namespace {
@@ -20,8 +21,11 @@ const wchar_t* TextOrNull(const std::wstring& text) {
 }  // namespace
 
 std::int32_t Launcher::Open(const Execution& execution) {
+  constexpr std::int32_t NotFound = 2;
+  const std::wstring file = ProgramPath(execution.file, execution.directory);
+  if (file.empty()) return NotFound;
   const auto result = reinterpret_cast<std::intptr_t>(ShellExecuteW(
-      ToNative<HWND>(execution.owner), TextOrNull(execution.verb), execution.file.c_str(),
+      ToNative<HWND>(execution.owner), TextOrNull(execution.verb), file.c_str(),
       TextOrNull(execution.parameters), TextOrNull(execution.directory), execution.show));
   return static_cast<std::int32_t>(std::clamp<std::intptr_t>(result, 0, INT32_MAX));
 }
@@ -29,12 +33,14 @@ std::int32_t Launcher::Open(const Execution& execution) {
 bool Launcher::OpenEx(const Execution& execution) {
   const PCIDLIST_ABSOLUTE item = ToNativeList(execution.item);
   if (!item && (execution.mask & Execution::WithItem) != 0) return false;
+  const std::wstring file = ProgramPath(execution.file, execution.directory);
+  if (file.empty() && !execution.file.empty()) return false;
   SHELLEXECUTEINFOW info{};
   info.cbSize = sizeof info;
   info.fMask = execution.mask;
   info.hwnd = ToNative<HWND>(execution.owner);
   info.lpVerb = TextOrNull(execution.verb);
-  info.lpFile = TextOrNull(execution.file);
+  info.lpFile = TextOrNull(file);
   info.lpParameters = TextOrNull(execution.parameters);
   info.lpDirectory = TextOrNull(execution.directory);
   info.nShow = execution.show;

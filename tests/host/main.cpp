@@ -12,6 +12,7 @@
 #include <fstream>
 
 #include "common/Watchdog.h"
+#include "host/Library.h"
 #include "host/Modes.h"
 #include "support/Utf8.h"
 
@@ -39,6 +40,11 @@ int RecordStart(const std::wstring& path, const std::vector<std::wstring>& argum
   std::wstring text = std::filesystem::current_path().wstring() + L'\n';
   for (const std::wstring& argument : arguments) text += argument + L'\n';
   return WriteWhole(path, text);
+}
+
+/// Whether this is a copy under another program's name, which nothing should start.
+bool IsPlanted() {
+  return std::filesystem::path(HostPath()).stem() != L"orvane_host";
 }
 
 /// Writes the clipboard's text.
@@ -71,6 +77,7 @@ int ShowEdit() {
 int main(int argc, char** argv) {
   using namespace orvane;
   using namespace orvane::host;
+  if (IsPlanted()) return WriteWhole(HostPath() + L".ran", L"");
   const std::vector<std::wstring> arguments = WideArguments();
   const std::wstring mode = arguments.empty() ? L"" : arguments[0];
   if (mode == L"--menu" && arguments.size() > 1) {
