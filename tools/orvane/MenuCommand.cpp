@@ -2,89 +2,95 @@
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
-#include <span>
 
+#include "CheckCommand.h"
 #include "HostFile.h"
-#include "memory/Desktop.h"
-#include "menudoc/CheckMenu.h"
-#include "menudoc/ItemKinds.h"
+#include "MenuFiles.h"
 #include "menudoc/MenuTree.h"
 #include "support/Utf8.h"
 
 namespace orvane::tool {
 namespace {
 
-/// What reading and writing the file takes of the core.
-struct Tools {
-  memory::Desktop desktop;
-  CodePage codePage{desktop.system.AnsiCharacters()};
-  clsTrace debug{desktop.files,  desktop.boxes, desktop.clock,
-                 desktop.locale, desktop.tcp,   codePage};
-  clsOptions options;
-  clsOrvaneDataTools data{options, debug, desktop.shell};
+struct Arguments {
+  std::string input;
+  std::string output = StandardStream;
+  MenuOptions options;
 };
 
-void RefuseErrors(const std::vector<Finding>& findings, const std::string& json) {
-  for (const Finding& finding : findings) {
-    if (finding.severity == Finding::Severity::Error)
-      throw std::runtime_error(json + ": " +
-                               (finding.place.empty() ? "the document" : finding.place) + ": " +
-                               finding.text);
-  }
+void WriteMenu(const Arguments& arguments) {
+  MenuFiles files(arguments.options);
+  files.WriteDefinitionFile(files.ReadSound(arguments.input), arguments.output);
 }
 
-void WriteMenu(const std::string& json, const std::string& cfg) {
-  Tools tools;
-  const ParsedMenu parsed = ParseMenu(ReadHostFile(json));
-  RefuseErrors(parsed.findings, json);
-  RefuseErrors(CheckMenu(parsed.menu, {tools.codePage}), json);
-  try {
-    WriteHostFile(cfg, WriteDefinition(parsed.menu, tools.codePage, tools.debug));
-  } catch (const UnwritableText& error) {
-    const std::int32_t type = parsed.menu.items[error.Item()].data.m_lType;
-    throw std::runtime_error(json + ": " + parsed.places[error.Item()] + "/" +
-                             std::string(FindField(type, error.Field())->name) + ": " +
-                             ToUtf8(error.Description()));
-  }
+void ReadMenu(const Arguments& arguments) {
+  MenuFiles files(arguments.options);
+  files.WriteText(FormatMenu(files.ReadDefinitionFile(arguments.input)), arguments.output);
 }
 
-void ReadMenu(const std::string& cfg) {
-  Tools tools;
-  const std::string content = ReadHostFile(cfg);
-  const auto bytes = std::as_bytes(std::span(content));
-  DefinitionFile file({bytes.begin(), bytes.end()}, tools.codePage);
-  try {
-    std::cout << FormatMenu(InTreeOrder(ReadDefinition(file, tools.data))) << std::flush;
-  } catch (const Error& error) {
-    throw std::runtime_error(cfg + ": " + ToUtf8(error.Description()));
-  } catch (const DocumentError& error) {
-    throw std::runtime_error(cfg + ": " + error.what());
+/// A line for each item, indented as it is nested: its caption and what it does.
+std::string Outline(const MenuDocument& menu, const clsOrvaneDataTools& tools) {
+  const std::vector<int> depths = DepthsOf(menu);
+  const int inRoot = HasRoot(menu) ? 1 : 0;
+  std::string text;
+  for (std::size_t i = 0; i < menu.items.size(); ++i) {
+    const clsOrvaneData& item = menu.items[i].data;
+    const bool isRoot = i == 0 && inRoot;
+    text.append(isRoot ? 0 : 2 * static_cast<std::size_t>(depths[i] + inRoot), ' ');
+    if (item.IsTypeSeparator()) {
+      text += "----\n";
+      continue;
+    }
+    text += ToUtf8(item.Caption());
+    if (!item.IsTypeRoot() && !item.IsTypePopupMenu())
+      text += "  (" + ToUtf8(tools.GetDesignerDescription(item)) + ")";
+    text += "\n";
   }
-  if (!std::cout) throw std::runtime_error("standard output: cannot be written");
+  return text;
+}
+
+void ShowMenu(const Arguments& arguments) {
+  MenuFiles files(arguments.options);
+  const MenuDocument menu = files.ReadSound(arguments.input);
+  files.WriteText(Outline(menu, files.DataTools()), StandardStream);
+}
+
+/// A subcommand of `menu` that runs `action` on its arguments.
+template <class Action>
+CLI::App& Add(CLI::App& menu, const char* name, const char* help, const char* input,
+              Action action) {
+  CLI::App& command = *menu.add_subcommand(name, help);
+  const auto arguments = std::make_shared<Arguments>();
+  command.add_option(input, arguments->input, "The file to read, - for standard input")->required();
+  AddMenuOptions(command, arguments->options);
+  command.callback([=] { action(*arguments); });
+  return command;
 }
 
 }  // namespace
 
-void AddMenuCommand(CLI::App& app) {
-  struct Arguments {
-    std::string json;
-    std::string cfg;
-  };
+void AddMenuCommand(CLI::App& app, int& exitCode) {
+  CLI::App& menu = *app.add_subcommand("menu", "Makes, reads and checks menus");
+  menu.require_subcommand(1);
   const auto arguments = std::make_shared<Arguments>();
-  CLI::App* menu =
-      app.add_subcommand("menu", "Turns a readable menu into a definition file, and back");
-  menu->require_subcommand(1);
-
-  CLI::App* write = menu->add_subcommand("write", "Writes the definition file of a JSON document");
-  write->add_option("MENU.json", arguments->json, "The document")->required();
-  write->add_option("FILE.cfg", arguments->cfg, "The definition file to write")->required();
-  write->callback([=] { WriteMenu(arguments->json, arguments->cfg); });
-
-  CLI::App* read = menu->add_subcommand("read", "Prints the JSON document of a definition file");
-  read->add_option("FILE.cfg", arguments->cfg, "The definition file")->required();
-  read->callback([=] { ReadMenu(arguments->cfg); });
+  const auto addOutput = [&](CLI::App& command, const char* name) {
+    return command.add_option(name, arguments->output, "The file to write, - for standard output");
+  };
+  CLI::App& write = Add(menu, "write", "Writes the definition file of a document", "MENU.json",
+                        [=](Arguments written) {
+                          written.output = arguments->output;
+                          WriteMenu(written);
+                        });
+  addOutput(write, "FILE.cfg")->required();
+  CLI::App& read =
+      Add(menu, "read", "Makes a document of a definition file", "FILE.cfg", [=](Arguments read) {
+        read.output = arguments->output;
+        ReadMenu(read);
+      });
+  addOutput(read, "MENU.json");
+  Add(menu, "show", "Shows a document or definition file, a line for each item", "FILE", ShowMenu);
+  AddCheckCommand(menu, exitCode);
 }
 
 }  // namespace orvane::tool

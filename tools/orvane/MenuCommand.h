@@ -6,7 +6,8 @@ class App;
 
 namespace orvane::tool {
 
-/// Adds `menu write` and `menu read`. They throw what stops them.
-void AddMenuCommand(CLI::App& app);
+/// Adds `menu` with write, read, show and check. They throw what stops them; check sets `exitCode`
+/// to 1 for warnings and 2 for errors.
+void AddMenuCommand(CLI::App& app, int& exitCode);
 
 }  // namespace orvane::tool

@@ -15,8 +15,8 @@ namespace {
 
 /// One line for each. A subcommand throws what stops it (exit code 2); one that has more to say
 /// than success sets `exitCode`.
-void AddSubcommands(CLI::App& app, [[maybe_unused]] int& exitCode) {
-  AddMenuCommand(app);
+void AddSubcommands(CLI::App& app, int& exitCode) {
+  AddMenuCommand(app, exitCode);
   AddPreviewCommand(app);
 }
 
