@@ -18,8 +18,9 @@ using Severity = Finding::Severity;
 
 /// The letter that chooses an entry; 0 for none.
 wchar_t MnemonicOf(std::wstring_view caption) {
-  for (std::size_t i = caption.find(L'&'); i + 1 < caption.size(); i = caption.find(L'&', i + 2)) {
-    if (caption[i + 1] != L'&') return LowerCase(caption[i + 1]);
+  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != L'&') continue;
+    if (caption[++i] != L'&') return LowerCase(caption[i]);
   }
   return 0;
 }

@@ -127,7 +127,8 @@ TEST(CheckMenu, FindsWhatIsWrongBetweenItems) {
   Checked check;
   EXPECT_EQ(check(InMenu(popup("R&&D &a", R"({"type": "separator"})") + "," +
                          popup("&A", R"({"type": "separator"})") + "," +
-                         popup("b&", popup("&a", R"({"type": "separator"})")))),
+                         popup("b&", popup("&a", R"({"type": "separator"})") + "," +
+                                         popup("ab", R"({"type": "separator"})")))),
             "w /items/1/caption has the letter a of \"R&&D &a\" beside it\n");
   EXPECT_EQ(check(InMenu(R"({"type": "separator", "items": [{"type": "separator"}]})")),
             "e /items/0/items is no popup and cannot hold items\n");
