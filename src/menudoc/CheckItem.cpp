@@ -103,6 +103,7 @@ void CheckItem::CheckText(const ItemField& field, std::wstring_view text) {
       if (m_item->IsTypeFile()) CheckThere(field, std::wstring(text), false);
       break;
     case FieldUse::Affix:
+      return CheckAffix(field, text);
     case FieldUse::Bits:
       break;
   }
@@ -129,6 +130,11 @@ void CheckItem::CheckCaption(std::wstring_view text) {
   const auto control = std::ranges::find_if(text, IsControl);
   if (control != text.end())
     Warn("caption", "has a control character (" + CodeOf(*control) + ")", "Take it out.");
+}
+
+void CheckItem::CheckAffix(const ItemField& field, std::wstring_view text) {
+  if (text.find(L"\\r\\n") != text.npos)
+    Warn(field.name, "has \\r\\n, which is one line end too many: \\n alone is CR LF", "Use \\n.");
 }
 
 void CheckItem::CheckFilter(std::wstring_view text) {

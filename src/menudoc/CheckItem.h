@@ -25,6 +25,7 @@ class CheckItem {
   void CheckText(const ItemField& field, std::wstring_view text);
   void CheckEncoding(const ItemField& field, std::wstring_view text);
   void CheckCaption(std::wstring_view text);
+  void CheckAffix(const ItemField& field, std::wstring_view text);
   void CheckFilter(std::wstring_view text);
   void CheckScript(std::wstring_view text);
   void CheckTemplate(std::wstring_view text);

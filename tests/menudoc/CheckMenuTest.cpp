@@ -103,7 +103,9 @@ TEST(CheckMenu, FindsWhatIsWrongWithAnItem) {
       {task(R"("selectionOptions": "showSingle")"), "w /items/0 does nothing\n"},
       {task(R"("selectionOptions": ["showMultiple", "clipboard"])"),
        "w /items/0/fileSuffix leaves several names unseparated\n"},
-      {task(R"("selectionOptions": ["showSingle", "clipboard"])"), ""},
+      {task(R"("selectionOptions": ["showSingle", "clipboard"], "fileSuffix": "\\n")"), ""},
+      {task(R"("selectionOptions": ["showSingle", "clipboard"], "fileSuffix": "\\r\\n")"),
+       "w /items/0/fileSuffix has \\r\\n, which is one line end too many: \\n alone is CR LF\n"},
       {task(R"("selectionOptions": ["showAlways", "clipboard"], "filePrefix": "\\t")"), ""},
       {task(
            R"("selectionOptions": "showAlways", "command": "x.exe", "parameters": "[orv_selection]",
