@@ -39,7 +39,8 @@ bool Launcher::OpenEx(const Execution& execution) {
 
 bool Launcher::Start(const std::wstring& program, const std::wstring& commandLine,
                      const std::wstring& directory) {
-  if (m_faults.Hit() || !IsFullPath(program) || failures.contains(program)) return false;
+  if (m_faults.Hit() || !IsFullPath(program)) return false;
+  if (failures.contains(program) || failures.contains(directory)) return false;
   m_effects.Add(Effect("CreateProcess").With("command", commandLine).With("directory", directory));
   return true;
 }

@@ -31,7 +31,7 @@ class Launcher : public orvane::Launcher {
   std::int32_t BrowseObject(std::intptr_t shellBrowser, const ItemIdList& item) override;
   void BrowsingDone(WindowHandle window) override;
 
-  std::map<std::wstring, std::int32_t> failures;               // Open's code, by file
+  std::map<std::wstring, std::int32_t> failures;  // Open's code, by file; Start's folders too
   std::map<std::intptr_t, std::int32_t> browserFailures = {};  // BrowseObject's HRESULT
 
  private:

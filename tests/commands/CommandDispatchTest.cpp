@@ -81,11 +81,10 @@ TEST_F(Dispatch, VerbsOpenTheSelectedFileAndFoldersWhateverKeyIsHeld) {
 TEST_F(Dispatch, FirstEntryTogglesDebuggingWhenTheMenuHasThatEntry) {
   options.m_bDebugEnableInMenu = true;
   Add(Data::TypeFile, L"C:\\one.txt");
-  for (const std::string& line : Invoke(0)) {
-    if (line.starts_with("RegSet")) {
-      EXPECT_NE(line.find("name=Debug"), std::string::npos) << line;
-    }
-  }
+  Lines saved = Invoke(0);
+  const auto isDebug = [](const std::string& line) { return line.find("name=Debug") != line.npos; };
+  EXPECT_GT(std::erase_if(saved, isDebug), 0u);
+  EXPECT_EQ(saved, Lines{}) << "no other setting";
   EXPECT_TRUE(options.m_bDebugEnable);
   Invoke(0);
   EXPECT_FALSE(options.m_bDebugEnable);
@@ -227,6 +226,9 @@ TEST_F(Dispatch, CommandPromptIsStartedByItsFullPath) {
     EXPECT_EQ(Run(Data::TypeCommandPrompt),
               (Lines{"CreateProcess command=" + row.command + " directory=C:\\Work"}));
   }
+  desktop.launcher.failures[L"C:\\Work"] = 3;
+  EXPECT_EQ(Run(Data::TypeCommandPrompt), (Lines{"CreateProcess command=" + rows[5].command}))
+      << "in the host's own folder rather than not at all";
   EXPECT_EQ(desktop.files.WorkingDirectory(), L"C:\\Windows\\System32");
 }
 
