@@ -29,8 +29,10 @@ using Record = std::shared_ptr<clsOrvaneData>;
 struct Call {
   const CommandContext& context;
   WindowHandle window;
+  std::intptr_t siteBrowser;
   bool bCtrlPressed = false;
   bool bShiftPressed = false;
+  bool isOurs = false;
 };
 
 Opener MakeOpener(const Call& call) {
@@ -39,7 +41,8 @@ Opener MakeOpener(const Call& call) {
 }
 
 void ShowFolder(const Call& call, Data& item) {
-  FolderCommand(call.context, call.window).Run(item, call.bCtrlPressed, call.bShiftPressed);
+  FolderCommand(call.context, call.window, call.siteBrowser)
+      .Run(item, call.bCtrlPressed, call.bShiftPressed);
 }
 
 void ResetList(clsMRU& list) {
@@ -123,6 +126,11 @@ std::int32_t VerbOffset(std::wstring_view verb) {
   return ParseNumber(verb.substr(std::min(verb.size(), PrefixLength)));
 }
 
+/// The entry that switches the debug log on and off, which has no node.
+bool IsDebugSwitch(const CommandContext& context, std::int32_t offset) {
+  return context.g_Options.m_bDebugEnableInMenu && offset == 0;
+}
+
 bool IsOpen(const CommandContext& context, const InvokeRequest& request) {
   return LowerCase(request.verb) == L"open" && !context.CurrentFile.empty();
 }
@@ -152,6 +160,7 @@ Record Identify(const InvokeRequest& request, Call& call) {
   } else {
     Log(L"Verb=", request.verb);
     if (IsOpen(context, request)) {
+      call.isOurs = true;
       MakeOpener(call).OpenFile(context.CurrentFile, call.window);
       return nullptr;
     }
@@ -160,12 +169,14 @@ Record Identify(const InvokeRequest& request, Call& call) {
   const std::int32_t lCmdKey = CommandId(context, offset);
   Log(L"lCmdKey=", lCmdKey, L"  bCtrlPressed=", call.bCtrlPressed, L"  bShiftPressed=",
       call.bShiftPressed);
-  if (context.g_Options.m_bDebugEnableInMenu && offset == 0) {
+  if (IsDebugSwitch(context, offset)) {
+    call.isOurs = true;
     ToggleDebugging(context);
     return nullptr;
   }
   const Command command = Find(context, lCmdKey);
   if (!command) return nullptr;
+  call.isOurs = true;
   Record item = command.Record();
   Log(L"Index=", command.Index());
   Log(L"m_lType=", item->m_lType, L"  m_lOptions=", item->m_lOptions);
@@ -202,24 +213,26 @@ std::int32_t CopyNames(const Call& call) {
 
 }  // namespace
 
-std::int32_t IContextMenu_InvokeCommand(const CommandContext& context,
-                                        const InvokeRequest& request) {
+InvokeOutcome IContextMenu_InvokeCommand(const CommandContext& context,
+                                         const InvokeRequest& request) {
   TraceScope scope(L"IContextMenu_InvokeCommand");
   SetPendingError({});
   scope.CheckErrorAtExit();
+  Call call{context, request.window, request.siteBrowser};
+  std::int32_t result = 0;
   try {
     const std::int32_t lpVerb = request.offset;
     Log(L"Source hWnd=", Hex(request.window), L"  lpVerb=",
         request.byOffset ? Hex(lpVerb) : Hex(request.verb.data()));
-    Call call{context, request.window};
     const Record item = Identify(request, call);
-    if (!item) return 0;
-    if (item->IsTypeCopyFilenamesToClipbard()) return CopyNames(call);
-    Run(call, *item);
+    if (item && item->IsTypeCopyFilenamesToClipbard())
+      result = CopyNames(call);
+    else if (item)
+      Run(call, *item);
   } catch (...) {
     scope.Caught();
   }
-  return 0;
+  return {call.isOurs, result};
 }
 
 CommandText IContextMenu_GetCommandString(const CommandContext& context,
@@ -228,32 +241,28 @@ CommandText IContextMenu_GetCommandString(const CommandContext& context,
   constexpr std::uint32_t HelpText = 1;      // GCS_HELPTEXTA
   constexpr std::uint32_t WideHelpText = 5;  // GCS_HELPTEXTW
   TraceScope scope(L"IContextMenu_GetCommandString");
+  CommandText answer;
   try {
     Log(L"idCmd=", request.idCmd, L"  uFlags=", request.uFlags, L"  pszName=", request.pszName,
         L"  cchMax=", request.cchMax);
     const std::int32_t id = CommandId(context, request.idCmd);
     Log(L"Actual Command Id=", id);
     const Command command = Find(context, id);
-    if (!command) return {};
+    answer.isOurs = command || IsDebugSwitch(context, request.idCmd);
+    if (!command) return answer;
     const Record item = command.Record();
     Log(L"m_lType=", item->m_lType, L"  ", item->IsTypeFolder());
     std::wstring text =
         context.tools.GetExplorerDescription(*item, context.CurrentFile, context.CurrentFolder);
-    if (text.empty()) return {};
-    switch (request.uFlags) {
-      case Verb:
-        return {CommandText::Kind::Ansi, L"Item" + std::to_wstring(request.idCmd)};
-      case HelpText:
-        return {CommandText::Kind::Ansi, std::move(text)};
-      case WideHelpText:
-        return {CommandText::Kind::Wide, std::move(text)};
-      default:
-        return {CommandText::Kind::Ansi, L""};
-    }
+    if (text.empty()) return answer;
+    answer.kind =
+        request.uFlags == WideHelpText ? CommandText::Kind::Wide : CommandText::Kind::Ansi;
+    if (request.uFlags == Verb) answer.text = L"Item" + std::to_wstring(request.idCmd);
+    if (request.uFlags == HelpText || request.uFlags == WideHelpText) answer.text = std::move(text);
   } catch (...) {
     scope.Caught();
   }
-  return {};
+  return answer;
 }
 
 }  // namespace orvane

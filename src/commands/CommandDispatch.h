@@ -14,6 +14,14 @@ struct InvokeRequest {
   bool byOffset = true;                      // else by its verb
   std::int32_t offset = 0;                   // from m_lIdCmdFirst
   std::wstring verb;
+  std::intptr_t siteBrowser = 0;  // the IShellBrowser of the menu's site; 0 without
+};
+
+/// What became of it.
+struct InvokeOutcome {
+  bool isOurs = false;      // the request named something that the handler has
+  std::int32_t result = 0;  // 0, whatever happened, but for copying names to the clipboard, which
+                            // answers its failure as an HRESULT
 };
 
 /// What the shell wants to know of an entry.
@@ -24,10 +32,9 @@ struct TextRequest {
   std::uint32_t cchMax = 0;
 };
 
-/// Does what the entry is for. 0, whatever happened to it, but for copying names to the clipboard,
-/// which answers its failure as an HRESULT.
-std::int32_t IContextMenu_InvokeCommand(const CommandContext& context,
-                                        const InvokeRequest& request);
+/// Does what the entry is for.
+InvokeOutcome IContextMenu_InvokeCommand(const CommandContext& context,
+                                         const InvokeRequest& request);
 
 /// The verb ("Item" and the offset) or the help text of an entry.
 CommandText IContextMenu_GetCommandString(const CommandContext& context,

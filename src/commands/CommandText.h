@@ -14,7 +14,8 @@ struct CommandText {
   enum class Kind { Nothing, Ansi, Wide };  // Nothing: the buffer is left alone
 
   Kind kind = Kind::Nothing;
-  std::wstring text;
+  std::wstring text = {};
+  bool isOurs = false;  // the handler has such an entry
 };
 
 // Copies into a buffer of the shell, whose size is all the room there is: what does not fit is left

@@ -16,11 +16,13 @@ constexpr std::uint32_t NoNewFolderButton = 0x200;  // BIF_NONEWFOLDERBUTTON
 
 }  // namespace
 
-FolderCommand::FolderCommand(const CommandContext& context, WindowHandle window)
+FolderCommand::FolderCommand(const CommandContext& context, WindowHandle window,
+                             std::intptr_t siteBrowser)
     : m_context(context),
       m_platform(context.platform),
       m_opener(m_platform.launcher, m_platform.profiles, m_platform.shell),
-      m_window(window) {}
+      m_window(window),
+      m_siteBrowser(siteBrowser) {}
 
 void FolderCommand::Run(const clsOrvaneData& item, bool bCtrlPressed, bool bShiftPressed) {
   if (!Find(item)) return;
@@ -55,12 +57,15 @@ bool FolderCommand::Find(const clsOrvaneData& item) {
 void FolderCommand::ShowInWindow() {
   if (!m_pidl) return Warn(m_platform.boxes, L"Path not found - " + m_folder);
   if (PlayWindowAction()) return;
-  if (!BrowseIn(m_window)) {
+  if (m_siteBrowser != 0 && BrowseIn(m_siteBrowser)) return;
+  const std::intptr_t windowBrowser = BrowserOf(m_window);
+  if (!BrowseIn(windowBrowser)) {
     const WindowHandle parent = GetRootExplorerWindow(m_platform.windows, m_window);
     Log(L"hWndParent=", Hex(parent));
-    if (!BrowseIn(parent)) m_opener.OpenFolderEx(m_pidl, m_window);
+    if (!BrowseIn(BrowserOf(parent))) m_opener.OpenFolderEx(m_pidl, m_window);
   }
-  m_platform.launcher.BrowsingDone(m_window);
+  // To a window that gave no browser the number means something of its own.
+  if (windowBrowser != 0) m_platform.launcher.BrowsingDone(m_window);
 }
 
 bool FolderCommand::PlayWindowAction() {
@@ -77,11 +82,14 @@ bool FolderCommand::PlayWindowAction() {
   return true;
 }
 
-bool FolderCommand::BrowseIn(WindowHandle window) {
-  Launcher& launcher = m_platform.launcher;
-  const std::intptr_t shellBrowser = launcher.ShellBrowser(window);
+std::intptr_t FolderCommand::BrowserOf(WindowHandle window) {
+  const std::intptr_t shellBrowser = m_platform.launcher.ShellBrowser(window);
   Log(L"lAddress=", Hex(static_cast<std::int32_t>(shellBrowser)));
-  const std::int32_t failure = launcher.BrowseObject(shellBrowser, m_pidl);
+  return shellBrowser;
+}
+
+bool FolderCommand::BrowseIn(std::intptr_t shellBrowser) {
+  const std::int32_t failure = m_platform.launcher.BrowseObject(shellBrowser, m_pidl);
   if (failure != 0) Log(L"Err=", failure, L" - The window does not show the folder");
   return failure == 0;
 }

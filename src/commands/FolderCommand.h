@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "commands/CommandContext.h"
@@ -11,7 +12,9 @@ namespace orvane {
 /// the start of a dialog that picks a file to open.
 class FolderCommand {
  public:
-  FolderCommand(const CommandContext& context, WindowHandle window);
+  /// `siteBrowser`: the IShellBrowser that the menu's site names, 0 without; it is asked before
+  /// any window.
+  FolderCommand(const CommandContext& context, WindowHandle window, std::intptr_t siteBrowser = 0);
 
   void Run(const clsOrvaneData& item, bool bCtrlPressed, bool bShiftPressed);
 
@@ -21,7 +24,8 @@ class FolderCommand {
   void ShowInWindow();
   /// Lets a custom action made for the window do it; false when there is none, or no path to type.
   bool PlayWindowAction();
-  bool BrowseIn(WindowHandle window);
+  std::intptr_t BrowserOf(WindowHandle window);
+  bool BrowseIn(std::intptr_t shellBrowser);
   void ShowInNewWindow(const clsOrvaneData& item);
   void BrowseAndOpen();
 
@@ -29,6 +33,7 @@ class FolderCommand {
   const Platform& m_platform;
   Opener m_opener;
   WindowHandle m_window;
+  std::intptr_t m_siteBrowser;
   std::wstring m_folder;  // empty for a virtual folder
   ItemIdList m_pidl;
 };

@@ -23,8 +23,9 @@ WindowHandle FirstOnTheWayUp(Windows& windows, WindowHandle window, Predicate ma
 
 WindowHandle GetRootExplorerWindow(Windows& windows, WindowHandle window) {
   TraceScope scope(L"GetRootExplorerWindow");
-  const WindowHandle found = FirstOnTheWayUp(
-      windows, window, [](const std::wstring& name) { return name == L"explorewclass"; });
+  const WindowHandle found = FirstOnTheWayUp(windows, window, [](const std::wstring& name) {
+    return name == L"cabinetwclass" || name == L"explorewclass";
+  });
   Log(L"GetRootExplorerWindow=", Hex(found));
   return found;
 }

@@ -6,7 +6,8 @@ namespace orvane {
 
 // Which program asked for the menu: walks from a window to the top over its parents.
 
-/// The nearest window of an Explorer folder frame ("ExploreWClass") at or above `window`, or None.
+/// The nearest window of an Explorer folder frame ("CabinetWClass", once "ExploreWClass") at or
+/// above `window`, or None.
 WindowHandle GetRootExplorerWindow(Windows& windows, WindowHandle window);
 
 /// The nearest dialog of an office program (class beginning with "bosa_sdm"), or None.

@@ -8,7 +8,6 @@ namespace {
 constexpr std::int32_t Started = 42;  // any code above 32 is a success
 constexpr std::int32_t OutOfMemory = 0;
 constexpr auto NullPointer = static_cast<std::int32_t>(0x80004003);  // E_POINTER
-constexpr std::uint32_t Patience = 1000;                             // milliseconds
 
 }  // namespace
 
@@ -45,8 +44,14 @@ bool Launcher::Start(const std::wstring& program, const std::wstring& commandLin
   return true;
 }
 
+std::intptr_t Launcher::Ask(WindowHandle window, std::uint32_t message) {
+  const Windows::Window* found = m_windows.Look(window);
+  if (!found || found->thread != Windows::OwnThread) return 0;
+  return m_windows.Send(window, message, 0, 0, 0).value_or(0);
+}
+
 std::intptr_t Launcher::ShellBrowser(WindowHandle window) {
-  return m_windows.Send(window, GetShellBrowser, 0, 0, Patience).value_or(0);
+  return Ask(window, GetShellBrowser);
 }
 
 std::int32_t Launcher::BrowseObject(std::intptr_t shellBrowser, const ItemIdList& item) {
@@ -58,7 +63,7 @@ std::int32_t Launcher::BrowseObject(std::intptr_t shellBrowser, const ItemIdList
 }
 
 void Launcher::BrowsingDone(WindowHandle window) {
-  m_windows.Send(window, BrowserMoved, 0, 0, Patience);
+  Ask(window, BrowserMoved);
 }
 
 }  // namespace orvane::memory

@@ -35,6 +35,8 @@ class Launcher : public orvane::Launcher {
   std::map<std::intptr_t, std::int32_t> browserFailures = {};  // BrowseObject's HRESULT
 
  private:
+  std::intptr_t Ask(WindowHandle window, std::uint32_t message);
+
   Shell& m_shell;
   Windows& m_windows;
   Effects& m_effects;

@@ -22,8 +22,11 @@ class Menus : public orvane::Menus {
   bool Remove(MenuHandle menu, std::int32_t position) override;
   bool Look(MenuHandle menu, std::int32_t position, std::wstring& caption,
             MenuHandle& submenu) override;
+  std::int32_t Highlighted(MenuHandle) override { return m_faults.Hit() ? -1 : highlighted; }
 
   // For tests and the preview.
+
+  std::int32_t highlighted = -1;  // in whichever menu is open
 
   /// The entries as they were handed over; none for what is no menu.
   const std::vector<MenuEntry>& Entries(MenuHandle menu) const;

@@ -13,12 +13,14 @@ namespace orvane::memory {
 /// and answered from the record; no window does anything of its own.
 class Windows : public orvane::Windows {
  public:
+  static constexpr std::uint32_t OwnThread = 1;  // the calling one
+
   struct Window {
     WindowHandle parent = WindowHandle::None;
     std::wstring className = {};
     std::wstring caption = {};
     std::uint32_t process = 1;
-    std::uint32_t thread = 1;
+    std::uint32_t thread = OwnThread;
     bool answers = true;                                  // false: hangs
     std::map<std::uint32_t, std::intptr_t> results = {};  // by message; 0 for the others
     int questionsLeft = -1;  // vanishes after so many more calls; negative: stays

@@ -49,8 +49,9 @@ class Launcher {
                      const std::wstring& directory) = 0;
 
   /// The shell browser of an explorer window (its answer to WM_USER + 7, the address of an
-  /// IShellBrowser that stays the window's own); 0 when the window does not answer within a second,
-  /// and for a window of another process, where the address would mean nothing.
+  /// IShellBrowser that stays the window's own); 0 when it answers anything else, and for a window
+  /// of another thread, which is not asked: other windows mean other things by the number, and the
+  /// address would be of no use here.
   virtual std::intptr_t ShellBrowser(WindowHandle window) = 0;
 
   /// Shows the item in the shell browser that ShellBrowser gave; 0 or the failing HRESULT, also for
@@ -58,7 +59,7 @@ class Launcher {
   virtual std::int32_t BrowseObject(std::intptr_t shellBrowser, const ItemIdList& item) = 0;
 
   /// Tells the window that its browser has been sent elsewhere (WM_USER + 10); asks for no answer
-  /// and passes over windows of other processes, as ShellBrowser does.
+  /// and passes over windows of other threads, as ShellBrowser does.
   virtual void BrowsingDone(WindowHandle window) = 0;
 };
 

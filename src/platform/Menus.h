@@ -50,6 +50,9 @@ class Menus {
   /// such an entry, the outputs then untouched.
   virtual bool Look(MenuHandle menu, std::int32_t position, std::wstring& caption,
                     MenuHandle& submenu) = 0;
+
+  /// Position of the entry that the user has reached in the open menu; -1 without one.
+  virtual std::int32_t Highlighted(MenuHandle menu) = 0;
 };
 
 using UniqueMenu = UniqueResource<Menus, MenuHandle, &Menus::Destroy>;

@@ -7,9 +7,12 @@ namespace orvane::server {
 HRESULT ClassFactory::QueryInterface(REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
-  if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
+  if (iid == __uuidof(IClassFactoryEx))
+    m_for = For::Script;
+  else if (iid != IID_IUnknown && iid != IID_IClassFactory)
+    return E_NOINTERFACE;
   AddRef();
-  *object = static_cast<IClassFactory*>(this);
+  *object = static_cast<IClassFactoryEx*>(this);
   return S_OK;
 }
 
@@ -24,11 +27,20 @@ ULONG ClassFactory::Release() noexcept {
 }
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept {
+  return Make(m_for, outer, iid, object);
+}
+
+HRESULT ClassFactory::CreateInstanceWithContext(IUnknown*, IUnknown* outer, REFIID iid,
+                                                void** object) noexcept {
+  return Make(For::Script, outer, iid, object);
+}
+
+HRESULT ClassFactory::Make(For whom, IUnknown* outer, REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
   if (outer) return CLASS_E_NOAGGREGATION;
   return Guarded(E_FAIL, [&] {
-    IUnknown* created = m_create();
+    IUnknown* created = m_create(whom);
     const HRESULT result = created->QueryInterface(iid, object);
     created->Release();
     return result;

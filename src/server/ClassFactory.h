@@ -1,6 +1,8 @@
 #pragma once
 
-#include <unknwn.h>
+#include <windows.h>
+
+#include <mshtmhst.h>
 
 #include <atomic>
 
@@ -8,10 +10,13 @@
 
 namespace orvane::server {
 
-/// Makes the objects of one class: `Create` makes one, with a reference count of 1.
-class ClassFactory final : public IClassFactory {
+/// Makes the objects of one class. Script engines are known by their asking for IClassFactoryEx,
+/// whether they then create through it or, as Wine's VBScript does, as programs do.
+class ClassFactory final : public IClassFactoryEx {
  public:
-  using Create = IUnknown* (*)();
+  enum class For { Program, Script };
+  /// Makes one, with a reference count of 1.
+  using Create = IUnknown* (*)(For);
 
   explicit ClassFactory(Create create) : m_create(create) {}
 
@@ -21,12 +26,16 @@ class ClassFactory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid,
                                            void** object) noexcept override;
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override;
+  HRESULT STDMETHODCALLTYPE CreateInstanceWithContext(IUnknown* context, IUnknown* outer,
+                                                      REFIID iid, void** object) noexcept override;
 
  private:
   ~ClassFactory() = default;
+  HRESULT Make(For whom, IUnknown* outer, REFIID iid, void** object) noexcept;
 
   ModuleLock m_lock;
   Create m_create;
+  std::atomic<For> m_for = For::Program;
   std::atomic<ULONG> m_references = 1;
 };
 

@@ -1,13 +1,12 @@
 #include "server/ComContextMenuHandler.h"
 
-#include <wrl/client.h>
+#include <servprov.h>
 
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <utility>
 
-#include "server/Guarded.h"
 #include "server/InvokeRecord.h"
 #include "win32/DataObject.h"
 #include "win32/NativeHandles.h"
@@ -17,14 +16,41 @@
 namespace orvane::server {
 namespace {
 
+using Microsoft::WRL::ComPtr;
+
 // The low 32 bits of an address or a key, for the log.
 std::int32_t Number(const void* address) {
   return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(address));
 }
 
+/// The browser of the window that the site lies in; null without.
+ComPtr<IShellBrowser> BrowserOf(IUnknown* site) {
+  ComPtr<IServiceProvider> services;
+  ComPtr<IShellBrowser> browser;
+  if (site && SUCCEEDED(site->QueryInterface(IID_PPV_ARGS(services.GetAddressOf()))))
+    services->QueryService(SID_STopLevelBrowser, IID_PPV_ARGS(browser.GetAddressOf()));
+  return browser;
+}
+
+/// Closes the answer in the buffer of whoever asked. What is ours leaves no wide buffer as it was,
+/// since it would be read as a text.
+void CopyAnswer(const CommandText& answer, bool isLent, UINT what, const CodePage& codePage,
+                CHAR* text, UINT size) {
+  const bool wide = (what & GCS_UNICODE) != 0;
+  if (wide && (isLent || answer.isOurs)) {
+    const bool hasText = answer.kind == CommandText::Kind::Wide;
+    CopyBounded(hasText ? answer.text : std::wstring(),
+                std::span(reinterpret_cast<char16_t*>(text), size));
+  } else if (answer.kind == CommandText::Kind::Ansi) {
+    CopyBounded(answer.text, codePage, std::span(text, size));
+  }
+}
+
 }  // namespace
-IUnknown* ComContextMenuHandler::Create() {
-  return static_cast<IShellExtInit*>(new ComContextMenuHandler);
+
+IUnknown* ComContextMenuHandler::Create(ClassFactory::For whom) {
+  Module::Pin();
+  return static_cast<IShellExtInit*>(new ComContextMenuHandler(whom));
 }
 
 HRESULT ComContextMenuHandler::QueryInterface(REFIID iid, void** object) noexcept {
@@ -36,6 +62,8 @@ HRESULT ComContextMenuHandler::QueryInterface(REFIID iid, void** object) noexcep
     *object = static_cast<IContextMenu3*>(this);
   } else if (iid == IID_IDispatch || iid == IidContextMenuHandler) {
     *object = static_cast<IContextMenuHandler*>(this);
+  } else if (iid == IID_IObjectWithSite && m_for == ClassFactory::For::Program) {
+    *object = static_cast<IObjectWithSite*>(this);
   } else {
     return E_NOINTERFACE;
   }
@@ -49,13 +77,16 @@ ULONG ComContextMenuHandler::AddRef() noexcept {
 
 ULONG ComContextMenuHandler::Release() noexcept {
   const ULONG left = --m_references;
-  if (left == 0) delete this;
+  if (left == 0) {
+    m_lock.reset();
+    End();
+  }
   return left;
 }
 
 HRESULT ComContextMenuHandler::Initialize(PCIDLIST_ABSOLUTE folder, IDataObject* selection,
                                           HKEY progId) noexcept {
-  return Guarded(S_OK, [&] {
+  return Serve(S_OK, [&] {
     std::shared_ptr<DataObject> object;
     if (selection) object = std::make_shared<win32::DataObject>(selection);
     return m_handler.IShellExtInit_Initialize(win32::CopyOf(folder), std::move(object),
@@ -66,7 +97,7 @@ HRESULT ComContextMenuHandler::Initialize(PCIDLIST_ABSOLUTE folder, IDataObject*
 HRESULT ComContextMenuHandler::QueryContextMenu(HMENU menu, UINT index, UINT first, UINT last,
                                                 UINT flags) noexcept {
   if (!menu) return E_INVALIDARG;
-  return Guarded(S_OK, [&] {
+  return Serve(S_OK, [&] {
     return m_handler.IContextMenu_QueryContextMenuEx(
         win32::FromNative<MenuHandle>(menu), static_cast<std::int32_t>(index),
         static_cast<std::int32_t>(first), static_cast<std::int32_t>(last), flags);
@@ -75,44 +106,59 @@ HRESULT ComContextMenuHandler::QueryContextMenu(HMENU menu, UINT index, UINT fir
 
 HRESULT ComContextMenuHandler::InvokeCommand(CMINVOKECOMMANDINFO* record) noexcept {
   if (!record) return E_POINTER;
-  // Dialogs run messages: a host that closes its window meanwhile may let go of the handler.
-  const Microsoft::WRL::ComPtr<IContextMenu3> alive(this);
-  return Guarded(S_OK, [&]() -> HRESULT {
-    const auto request = ReadInvokeRecord(*record, m_thread.Globals().codePage);
-    return request ? m_handler.IContextMenu_InvokeCommand(*request) : E_INVALIDARG;
+  return Serve(S_OK, [&]() -> HRESULT {
+    auto request = ReadInvokeRecord(*record, Globals().codePage);
+    if (!request) return E_INVALIDARG;
+    if (!m_handler.IsQueried()) return E_FAIL;
+    const ComPtr<IShellBrowser> browser = BrowserOf(m_site.Get());
+    request->siteBrowser = reinterpret_cast<std::intptr_t>(browser.Get());
+    const InvokeOutcome outcome = m_handler.IContextMenu_InvokeCommand(*request);
+    // A success would keep the command from the handler that it was meant for.
+    return outcome.isOurs ? outcome.result : E_FAIL;
   });
 }
 
 HRESULT ComContextMenuHandler::GetCommandString(UINT_PTR offset, UINT what, UINT*, CHAR* text,
                                                 UINT size) noexcept {
-  return Guarded(S_OK, [&] {
-    const CommandText answer =
-        m_handler.IContextMenu_GetCommandString({.idCmd = static_cast<std::int32_t>(offset),
-                                                 .uFlags = what,
-                                                 .pszName = Number(text),
-                                                 .cchMax = size});
-    if (!text) return S_OK;
-    if (answer.kind == CommandText::Kind::Ansi) {
-      CopyBounded(answer.text, m_thread.Globals().codePage, std::span(text, size));
-    } else if (answer.kind == CommandText::Kind::Wide) {
-      CopyBounded(answer.text, std::span(reinterpret_cast<char16_t*>(text), size));
+  return Serve(S_OK, [&] {
+    // A verb's address, which some ask about, is no offset.
+    const std::int32_t idCmd = offset <= INT32_MAX ? static_cast<std::int32_t>(offset) : -1;
+    const CommandText answer = m_handler.IContextMenu_GetCommandString(
+        {.idCmd = idCmd, .uFlags = what, .pszName = Number(text), .cchMax = size});
+    if (text) {
+      CopyAnswer(answer, m_handler.IsLent(idCmd), what, Globals().codePage, text, size);
     }
-    return S_OK;
+    const bool validates = what == GCS_VALIDATEA || what == GCS_VALIDATEW;
+    return validates && !answer.isOurs ? S_FALSE : S_OK;
   });
 }
 
 HRESULT ComContextMenuHandler::HandleMenuMsg(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  windowing::HandleMenuMsg(message, wParam, lParam);
-  return S_OK;
+  return Serve(S_OK, [&] {
+    windowing::HandleMenuMsg(m_handler.Menu(), message, wParam, lParam);
+    return S_OK;
+  });
 }
 
 HRESULT ComContextMenuHandler::HandleMenuMsg2(UINT message, WPARAM wParam, LPARAM lParam,
                                               LRESULT* result) noexcept {
   if (result) *result = 0;
-  return Guarded(S_OK, [&] {
-    windowing::HandleMenuMsg2(m_handler.Menu(), message, wParam, lParam);
+  return Serve(S_OK, [&] {
+    const LRESULT answer = windowing::HandleMenuMsg2(m_handler.Menu(), message, wParam, lParam);
+    if (result) *result = answer;
     return S_OK;
   });
+}
+
+HRESULT ComContextMenuHandler::SetSite(IUnknown* site) noexcept {
+  m_site = site;
+  return S_OK;
+}
+
+HRESULT ComContextMenuHandler::GetSite(REFIID iid, void** site) noexcept {
+  if (!site) return E_POINTER;
+  *site = nullptr;
+  return m_site ? m_site->QueryInterface(iid, site) : E_FAIL;
 }
 
 }  // namespace orvane::server

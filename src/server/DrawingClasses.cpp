@@ -142,11 +142,11 @@ class PaintEffects final : public DrawingObject<IPaintEffects, IidPaintEffects> 
 
 }  // namespace
 
-IUnknown* CreateQuickGdi() {
+IUnknown* CreateQuickGdi(ClassFactory::For) {
   return new QuickGdi;
 }
 
-IUnknown* CreatePaintEffects() {
+IUnknown* CreatePaintEffects(ClassFactory::For) {
   return new PaintEffects;
 }
 

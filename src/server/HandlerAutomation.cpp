@@ -5,7 +5,6 @@
 #include <oleauto.h>
 
 #include "server/ComContextMenuHandler.h"
-#include "server/Guarded.h"
 
 namespace orvane::server {
 namespace {
@@ -20,16 +19,18 @@ HRESULT ComContextMenuHandler::IContextMenu_QueryContextMenuEx(LONG hMenu, LONG 
                                                                LONG idCmdFirst, LONG idCmdLast,
                                                                LONG uFlags, LONG* result) noexcept {
   if (!result) return E_POINTER;
-  *result =
-      m_handler.IContextMenu_QueryContextMenuEx(ToHandle<MenuHandle>(hMenu), indexMenu, idCmdFirst,
-                                                idCmdLast, static_cast<std::uint32_t>(uFlags));
-  return S_OK;
+  return Serve(E_FAIL, [&] {
+    *result = m_handler.IContextMenu_QueryContextMenuEx(ToHandle<MenuHandle>(hMenu), indexMenu,
+                                                        idCmdFirst, idCmdLast,
+                                                        static_cast<std::uint32_t>(uFlags));
+    return S_OK;
+  });
 }
 
 HRESULT ComContextMenuHandler::CreateMenu(VARIANT_BOOL* result) noexcept {
   if (!result) return E_POINTER;
   *result = VARIANT_FALSE;
-  return Guarded(E_FAIL, [&] {
+  return Serve(E_FAIL, [&] {
     *result = Boolean(m_handler.CreateMenu());
     return S_OK;
   });
@@ -38,7 +39,7 @@ HRESULT ComContextMenuHandler::CreateMenu(VARIANT_BOOL* result) noexcept {
 HRESULT ComContextMenuHandler::GetRootExplorerWindow(LONG hWnd, LONG* found) noexcept {
   if (!found) return E_POINTER;
   *found = 0;
-  return Guarded(E_FAIL, [&] {
+  return Serve(E_FAIL, [&] {
     *found = ToNumber(m_handler.GetRootExplorerWindow(ToHandle<WindowHandle>(hWnd)));
     return S_OK;
   });
@@ -47,7 +48,7 @@ HRESULT ComContextMenuHandler::GetRootExplorerWindow(LONG hWnd, LONG* found) noe
 HRESULT ComContextMenuHandler::GetRootOfficeWindow(LONG hWnd, LONG* found) noexcept {
   if (!found) return E_POINTER;
   *found = 0;
-  return Guarded(E_FAIL, [&] {
+  return Serve(E_FAIL, [&] {
     *found = ToNumber(m_handler.GetRootOfficeWindow(ToHandle<WindowHandle>(hWnd)));
     return S_OK;
   });
@@ -56,7 +57,7 @@ HRESULT ComContextMenuHandler::GetRootOfficeWindow(LONG hWnd, LONG* found) noexc
 HRESULT ComContextMenuHandler::IsIE(LONG hWnd, VARIANT_BOOL* result) noexcept {
   if (!result) return E_POINTER;
   *result = VARIANT_FALSE;
-  return Guarded(E_FAIL, [&] {
+  return Serve(E_FAIL, [&] {
     *result = Boolean(m_handler.IsIE(ToHandle<WindowHandle>(hWnd)));
     return S_OK;
   });
@@ -73,7 +74,7 @@ HRESULT ComContextMenuHandler::CanInsertMenuCommand(VARIANT_BOOL bShowError, VAR
 HRESULT ComContextMenuHandler::OwnerDrawMenu_GetCaption(LONG lId, BSTR* caption) noexcept {
   if (!caption) return E_POINTER;
   *caption = nullptr;
-  return Guarded(E_FAIL, [&]() -> HRESULT {
+  return Serve(E_FAIL, [&]() -> HRESULT {
     const std::wstring text = m_handler.OwnerDrawMenu_GetCaption(lId);
     *caption = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
     return *caption ? S_OK : E_OUTOFMEMORY;
@@ -83,7 +84,7 @@ HRESULT ComContextMenuHandler::OwnerDrawMenu_GetCaption(LONG lId, BSTR* caption)
 HRESULT ComContextMenuHandler::OwnerDrawMenu_HasBitmap(LONG lId, LONG* hBitmap) noexcept {
   if (!hBitmap) return E_POINTER;
   *hBitmap = 0;
-  return Guarded(E_FAIL, [&] {
+  return Serve(E_FAIL, [&] {
     *hBitmap = ToNumber(m_handler.OwnerDrawMenu_HasBitmap(lId));
     return S_OK;
   });

@@ -21,7 +21,7 @@ const wchar_t* WideVerb(const CMINVOKECOMMANDINFO& record) {
 
 std::optional<InvokeRequest> ReadInvokeRecord(const CMINVOKECOMMANDINFO& record,
                                               const CodePage& codePage) {
-  if (record.cbSize < sizeof record) return {};
+  if (record.cbSize != 0 && record.cbSize < sizeof record) return {};
   InvokeRequest request;
   request.window = win32::FromNative<WindowHandle>(record.hwnd);
   const wchar_t* wideVerb = WideVerb(record);

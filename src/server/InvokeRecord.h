@@ -13,7 +13,7 @@
 namespace orvane::server {
 
 /// What an invocation record asks for, in its short or its extended form. Reads no byte past the
-/// record's declared size; none when that is too small for the short form.
+/// record's declared size, of which 0 means the short form's; none when it is too small for that.
 std::optional<InvokeRequest> ReadInvokeRecord(const CMINVOKECOMMANDINFO& record,
                                               const CodePage& codePage);
 

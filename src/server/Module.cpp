@@ -37,6 +37,14 @@ bool Module::InUse() {
   return g_locks != 0;
 }
 
+void Module::Pin() {
+  static constinit std::atomic<bool> isPinned = false;
+  if (isPinned.exchange(true)) return;
+  HMODULE pinned = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                     reinterpret_cast<const wchar_t*>(g_handle), &pinned);
+}
+
 void Module::ProcessEnds(bool ends) {
   g_processEnds = ends;
 }

@@ -20,12 +20,16 @@ class Module {
   static void Unlock();
   static bool InUse();
 
+  /// Keeps the DLL in the process from now on, whatever InUse says: each time that it is loaded its
+  /// run-time library takes one of the process's few thread slots, and never gives it back.
+  static void Pin();
+
   /// Whether the process is at its end, and with it every other thread, rather than the DLL alone.
   static void ProcessEnds(bool ends);
   static bool ProcessEnds();
 };
 
-/// Keeps the DLL loaded.
+/// Something of the module's that somebody holds.
 class ModuleLock {
  public:
   ModuleLock() { Module::Lock(); }

@@ -1,8 +1,8 @@
 #include "server/ThreadModule.h"
 
-#include <windows.h>
-
 #include <commctrl.h>
+
+#include <utility>
 
 #include "server/Module.h"
 
@@ -20,16 +20,34 @@ ThreadModule::ThreadModule()
   InitCommonControlsEx(&controls);
 }
 
-ThreadModule::Use::Use() {
+ThreadModule& ThreadModule::Join() {
   if (!t_module) t_module = new ThreadModule;
-  m_module = t_module;
-  ++m_module->m_uses;
+  ++t_module->m_uses;
+  return *t_module;
 }
 
-ThreadModule::Use::~Use() {
-  if (--m_module->m_uses > 0) return;
-  if (t_module == m_module) t_module = nullptr;
-  delete m_module;
+void ThreadModule::Leave() {
+  if (--m_uses > 0) return;
+  t_module = nullptr;
+  delete this;
+}
+
+bool ThreadModule::IsOfThisThread() const {
+  return this == t_module;
+}
+
+HANDLE ThreadModule::OpenThread() const {
+  return ::OpenThread(SYNCHRONIZE, FALSE, m_thread);
+}
+
+ThreadModule::StandIn::StandIn(ThreadModule& ended)
+    : m_ownModule(std::exchange(t_module, &ended)), m_ownState(ThreadState::Current()) {
+  ThreadState::SetCurrent(&ended.m_globals.threadState);
+}
+
+ThreadModule::StandIn::~StandIn() {
+  t_module = m_ownModule;
+  ThreadState::SetCurrent(m_ownState);
 }
 
 }  // namespace orvane::server

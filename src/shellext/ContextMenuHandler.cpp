@@ -166,6 +166,8 @@ std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMen
     result = m_state.ids.Count();  // what was inserted must stay ours
   }
   Log(L"RV=", result);
+  m_isQueried = true;
+  m_count = result;
   return result;
 }
 
@@ -301,7 +303,7 @@ CommandContext ContextMenuHandler::Context() const {
           selection.CurrentFolder, selection.CurrentFile,   m_state.m_lNumWindowActions};
 }
 
-std::int32_t ContextMenuHandler::IContextMenu_InvokeCommand(const InvokeRequest& request) {
+InvokeOutcome ContextMenuHandler::IContextMenu_InvokeCommand(const InvokeRequest& request) {
   return orvane::IContextMenu_InvokeCommand(Context(), request);
 }
 

@@ -40,8 +40,7 @@ class ContextMenuHandler {
   /// Measures, paints and fills the menu while it is open.
   OpenMenu& Menu() { return m_openMenu; }
 
-  /// 0, or the failing HRESULT of the one command that reports one.
-  std::int32_t IContextMenu_InvokeCommand(const InvokeRequest& request);
+  InvokeOutcome IContextMenu_InvokeCommand(const InvokeRequest& request);
 
   /// An entry's help text or verb.
   CommandText IContextMenu_GetCommandString(const TextRequest& request) const;
@@ -57,6 +56,11 @@ class ContextMenuHandler {
   BitmapHandle OwnerDrawMenu_HasBitmap(std::int32_t lId) {
     return m_openMenu.OwnerDrawMenu_HasBitmap(lId);
   }
+
+  /// Whether the offset lies within the count that QueryContextMenu answered last; none does before
+  /// it was called.
+  bool IsLent(std::int32_t offset) const { return offset >= 0 && offset < m_count; }
+  bool IsQueried() const { return m_isQueried; }
 
   const HandlerState& State() const { return m_state; }
 
@@ -86,6 +90,8 @@ class ContextMenuHandler {
   MenuWriter m_writer;
   DynamicFolders m_dynamic;
   OpenMenu m_openMenu;
+  std::int32_t m_count = 0;  // the last answer of QueryContextMenu
+  bool m_isQueried = false;
 };
 
 }  // namespace orvane

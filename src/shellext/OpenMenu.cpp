@@ -1,5 +1,7 @@
 #include "shellext/OpenMenu.h"
 
+#include "platform/Menus.h"
+#include "shellext/MenuKeys.h"
 #include "support/Trace.h"
 
 namespace orvane {
@@ -33,6 +35,24 @@ void OpenMenu::Open(MenuHandle submenu) noexcept {
     const PendingError error = CaughtError();
     Log(L"Error: ", error.number, L" - ", error.description);
   }
+}
+
+std::intptr_t OpenMenu::Type(MenuHandle submenu, wchar_t character) noexcept {
+  try {
+    return IsOurs(submenu) ? AnswerMenuChar(m_globals.platform.menus, submenu, character) : 0;
+  } catch (...) {
+    const PendingError error = CaughtError();
+    Log(L"Error: ", error.number, L" - ", error.description);
+    return 0;
+  }
+}
+
+bool OpenMenu::IsOurs(MenuHandle submenu) const {
+  if (submenu == MenuHandle::None) return false;
+  if (submenu == m_state.m_hRootMenu) return true;
+  for (std::int32_t i = 1; i <= m_state.commands.Count(); ++i)
+    if (m_state.commands.At(i).Submenu() == submenu) return true;
+  return false;
 }
 
 std::wstring OpenMenu::OwnerDrawMenu_GetCaption(std::int32_t lId) {

@@ -23,6 +23,8 @@ class OpenMenu {
   void Draw(const DrawItem& item) noexcept;
   /// The submenu is about to be shown.
   void Open(MenuHandle submenu) noexcept;
+  /// A character was typed in it: the answer to WM_MENUCHAR, 0 for a menu that is not this one's.
+  std::intptr_t Type(MenuHandle submenu, wchar_t character) noexcept;
 
   /// The entry's caption; empty for an unknown identifier.
   std::wstring OwnerDrawMenu_GetCaption(std::int32_t lId);
@@ -32,6 +34,7 @@ class OpenMenu {
  private:
   Command Find(std::int32_t lId) const;
   bool IsFileName(std::int32_t id) const;
+  bool IsOurs(MenuHandle submenu) const;
 
   ModuleGlobals& m_globals;
   HandlerState& m_state;

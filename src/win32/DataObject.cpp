@@ -53,8 +53,12 @@ std::int32_t DataObject::Files(FileNames& names) {
   if (!m_object) return E_POINTER;
   FORMATETC format{CF_HDROP, nullptr, DVASPECT_CONTENT, 0, TYMED_HGLOBAL};
   Medium medium;
-  const HRESULT result = m_object->GetData(&format, medium.Out());
-  if (FAILED(result)) return result;
+  HRESULT result = m_object->GetData(&format, medium.Out());
+  if (FAILED(result)) {
+    // "All of it" is -1; some objects take nothing else, and a failure leaves the medium empty.
+    format.lindex = -1;
+    if (FAILED(m_object->GetData(&format, medium.Out()))) return result;
+  }
   const Lock lock(medium.Memory());
   if (!lock) return E_OUTOFMEMORY;
   std::optional<FileNames> read = ReadDropFiles(lock.Bytes(), DecodeAnsi);

@@ -79,4 +79,16 @@ bool Menus::Look(MenuHandle menu, std::int32_t position, std::wstring& caption,
   return true;
 }
 
+std::int32_t Menus::Highlighted(MenuHandle menu) {
+  MENUITEMINFOW info{};
+  info.cbSize = sizeof info;
+  info.fMask = MIIM_STATE;
+  const std::int32_t count = Count(menu);
+  for (std::int32_t i = 0; i < count; ++i) {
+    const bool found = GetMenuItemInfoW(Native(menu), static_cast<UINT>(i), TRUE, &info);
+    if (found && (info.fState & MFS_HILITE) != 0) return i;
+  }
+  return -1;
+}
+
 }  // namespace orvane::win32

@@ -15,6 +15,7 @@ class Menus : public orvane::Menus {
   bool Remove(MenuHandle menu, std::int32_t position) override;
   bool Look(MenuHandle menu, std::int32_t position, std::wstring& caption,
             MenuHandle& submenu) override;
+  std::int32_t Highlighted(MenuHandle menu) override;
 };
 
 }  // namespace orvane::win32

@@ -15,22 +15,13 @@ namespace {
 
 constexpr UINT GetShellBrowser = WM_USER + 7;
 constexpr UINT BrowserMoved = WM_USER + 10;
-constexpr UINT Patience = 1000;  // milliseconds
 
-/// Asks a window of this process, with the address of a zero; 0 also for other processes' windows.
+/// Asks a window of this thread, with the address of a zero; 0 for any other window.
 std::intptr_t Ask(WindowHandle window, UINT message) {
-  static DWORD zero;  // outlives a call that was given up
-  zero = 0;
-  DWORD process = 0;
+  std::intptr_t zero = 0;
   const HWND native = ToNative<HWND>(window);
-  GetWindowThreadProcessId(native, &process);
-  DWORD_PTR result = 0;
-  if (process != GetCurrentProcessId() ||
-      !SendMessageTimeoutW(native, message, 0, reinterpret_cast<LPARAM>(&zero), SMTO_ABORTIFHUNG,
-                           Patience, &result)) {
-    return 0;
-  }
-  return static_cast<std::intptr_t>(result);
+  if (GetWindowThreadProcessId(native, nullptr) != GetCurrentThreadId()) return 0;
+  return SendMessageW(native, message, 0, reinterpret_cast<LPARAM>(&zero));
 }
 
 /// Whether `count` pointers can be read at the address, in memory of one of the given protections.
@@ -58,21 +49,26 @@ bool IsInterface(const void* object) {
          (region.Protect & Code) != 0;
 }
 
+/// The shell browser at the address; null when there is none.
+ComPointer<IShellBrowser> BrowserAt(std::intptr_t address) {
+  ComPointer<IShellBrowser> browser;
+  auto* object = reinterpret_cast<IUnknown*>(address);
+  if (IsInterface(object))
+    object->QueryInterface(IID_IShellBrowser, reinterpret_cast<void**>(browser.Out()));
+  return browser;
+}
+
 }  // namespace
 
 std::intptr_t Launcher::ShellBrowser(WindowHandle window) {
-  return Ask(window, GetShellBrowser);
+  const std::intptr_t answer = Ask(window, GetShellBrowser);
+  return BrowserAt(answer) ? answer : 0;
 }
 
 std::int32_t Launcher::BrowseObject(std::intptr_t shellBrowser, const ItemIdList& item) {
   const PCIDLIST_ABSOLUTE list = ToNativeList(item);
-  auto* object = reinterpret_cast<IUnknown*>(shellBrowser);
-  if (!list || !IsInterface(object)) return E_POINTER;
-  ComPointer<IShellBrowser> browser;
-  const HRESULT found =
-      object->QueryInterface(IID_IShellBrowser, reinterpret_cast<void**>(browser.Out()));
-  if (FAILED(found)) return found;
-  if (!browser) return E_NOINTERFACE;
+  const ComPointer<IShellBrowser> browser = BrowserAt(shellBrowser);
+  if (!list || !browser) return E_POINTER;
   return browser->BrowseObject(list, SBSP_DEFBROWSER | SBSP_DEFMODE);
 }
 

@@ -32,12 +32,13 @@ void Draw(OpenMenu& menu, const DRAWITEMSTRUCT* item) {
 
 }  // namespace
 
-void HandleMenuMsg(UINT message, WPARAM wParam, LPARAM lParam) {
+void HandleMenuMsg(OpenMenu& menu, UINT message, WPARAM wParam, LPARAM lParam) {
   TraceScope scope(L"IContextMenu2_HandleMenuMsg");
   LogMessage(message, wParam, lParam);
+  HandleMenuMsg2(menu, message, wParam, lParam);
 }
 
-void HandleMenuMsg2(OpenMenu& menu, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT HandleMenuMsg2(OpenMenu& menu, UINT message, WPARAM wParam, LPARAM lParam) {
   TraceScope scope(L"IContextMenu3_HandleMenuMsg2");
   LogMessage(message, wParam, lParam);
   if (message == WM_MEASUREITEM)
@@ -46,6 +47,9 @@ void HandleMenuMsg2(OpenMenu& menu, UINT message, WPARAM wParam, LPARAM lParam) 
     Draw(menu, reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
   else if (message == WM_INITMENUPOPUP)
     menu.Open(ToHandle<MenuHandle>(static_cast<std::int32_t>(wParam)));
+  else if (message == WM_MENUCHAR)
+    return menu.Type(ToHandle<MenuHandle>(static_cast<std::int32_t>(lParam)), LOWORD(wParam));
+  return 0;
 }
 
 }  // namespace orvane::windowing

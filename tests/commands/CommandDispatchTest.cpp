@@ -19,14 +19,18 @@ class Dispatch : public testing::Test, protected Scene {
 
   Lines Invoke(std::int32_t offset) {
     desktop.effects.Clear();
-    result = IContextMenu_InvokeCommand(Context(), {window, true, offset, L""});
+    return Take(IContextMenu_InvokeCommand(Context(), {window, true, offset, L""}));
+  }
+
+  Lines Take(const InvokeOutcome& outcome) {
+    result = outcome.result;
+    isOurs = outcome.isOurs;
     return Effects();
   }
 
   Lines InvokeVerb(const std::wstring& verb) {
     desktop.effects.Clear();
-    result = IContextMenu_InvokeCommand(Context(), {window, false, 0, verb});
-    return Effects();
+    return Take(IContextMenu_InvokeCommand(Context(), {window, false, 0, verb}));
   }
 
   /// What an item of the type does, as the only entry of a fresh command table.
@@ -43,6 +47,7 @@ class Dispatch : public testing::Test, protected Scene {
   }
 
   std::int32_t result = 0;
+  bool isOurs = false;
   WindowHandle window;
 };
 
@@ -62,11 +67,13 @@ TEST_F(Dispatch, EntriesAreFoundByOffsetAndByVerb) {
   for (const auto& row : rows) {
     EXPECT_EQ(InvokeVerb(row.verb), row.effects) << "verb " << Printable(row.verb);
     EXPECT_EQ(result, 0);
+    EXPECT_EQ(isOurs, !row.effects.empty()) << "verb " << Printable(row.verb);
   }
   EXPECT_EQ(Invoke(2), two);
   for (const std::int32_t offset : {0, 3, 4, -1, INT32_MAX, INT32_MIN}) {
     EXPECT_EQ(Invoke(offset), Lines{}) << offset;
     EXPECT_EQ(result, 0);
+    EXPECT_EQ(isOurs, offset == 0) << offset;
   }
 }
 

@@ -46,10 +46,28 @@ std::size_t CountHeapBlocks() {
   return blocks;
 }
 
+std::size_t HighestKernelHandle() {
+  HANDLE events[16];
+  std::uintptr_t highest = 0;
+  for (HANDLE& event : events) {
+    event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    highest = std::max(highest, reinterpret_cast<std::uintptr_t>(event));
+  }
+  for (const HANDLE event : events) CloseHandle(event);
+  return highest;
+}
+
+std::size_t FirstFreeThreadSlot() {
+  const DWORD slot = TlsAlloc();
+  TlsFree(slot);
+  return slot;
+}
+
 }  // namespace
 
 LeakCount LeakCount::Now() {
-  return {CountGdiObjects(), HighestUserHandle(), CountHeapBlocks()};
+  return {CountGdiObjects(), HighestUserHandle(), HighestKernelHandle(), CountHeapBlocks(),
+          FirstFreeThreadSlot()};
 }
 
 }  // namespace orvane::host

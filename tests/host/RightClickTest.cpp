@@ -12,16 +12,19 @@ namespace {
 
 using Item = clsOrvaneData;
 
-/// A data object whose files cannot be had. Each medium that it gives holds a reference to it.
+/// A data object whose files cannot be had, or only in the way that it insists on. Each medium that
+/// it gives holds a reference to it.
 class SpoiltDataObject final : public IDataObject {
  public:
   explicit SpoiltDataObject(HRESULT answer) : m_answer(answer) {}
+  explicit SpoiltDataObject(ComPtr<IDataObject> whole) : m_answer(DV_E_LINDEX), m_whole(whole) {}
   ~SpoiltDataObject() { GlobalFree(m_discarded); }
 
   ULONG references = 1;
   int given = 0;
 
-  HRESULT STDMETHODCALLTYPE GetData(FORMATETC*, STGMEDIUM* medium) override {
+  HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
+    if (m_whole && format->lindex == -1) return m_whole->GetData(format, medium);
     if (FAILED(m_answer)) return m_answer;
     ++given;
     medium->tymed = TYMED_HGLOBAL;
@@ -48,6 +51,7 @@ class SpoiltDataObject final : public IDataObject {
 
  private:
   HRESULT m_answer;
+  ComPtr<IDataObject> m_whole;
   HGLOBAL m_discarded = GlobalAlloc(GMEM_MOVEABLE, 0);  // GlobalLock answers null
 };
 
@@ -131,6 +135,11 @@ TEST_F(RightClicks, RefusedSelectionIsReportedAndItsMediumReleased) {
   EXPECT_TRUE(FAILED(RightClick(scene.Folder(), &unlockable).initialized));
   EXPECT_EQ(unlockable.given, 1);
   EXPECT_EQ(unlockable.references, 1u);
+  SpoiltDataObject strict(Select(scene.Folder(), {L"a.txt"}));
+  RightClick click(scene.Folder(), &strict);
+  EXPECT_EQ(click.initialized, S_OK);
+  click.Query();
+  EXPECT_NE(click.Text().find(L"Copy to Run Dialog"), std::wstring::npos);
 }
 
 TEST_F(RightClicks, NothingHandedOverIsNoHarm) {
@@ -141,17 +150,13 @@ TEST_F(RightClicks, NothingHandedOverIsNoHarm) {
   EXPECT_EQ(click.handler->HandleMenuMsg2(WM_DRAWITEM, 0, 0, nullptr), S_OK);
   EXPECT_EQ(click.handler->HandleMenuMsg2(WM_MEASUREITEM, 0, 0, nullptr), S_OK);
   EXPECT_EQ(click.handler->HandleMenuMsg(WM_INITMENUPOPUP, 0, 0), S_OK);
-  CMINVOKECOMMANDINFO record{};
-  record.cbSize = sizeof record;
-  EXPECT_EQ(click.handler->InvokeCommand(&record), S_OK) << "before any menu";
-  record.cbSize = sizeof record - 1;
-  EXPECT_TRUE(FAILED(click.handler->InvokeCommand(&record)));
 }
 
 // What GetCommandString leaves in a buffer of 80 bytes, of which it is told that it may use some.
-std::string Answer(IContextMenu3* handler, UINT_PTR offset, UINT what, UINT size) {
+std::string Answer(IContextMenu3* handler, UINT_PTR offset, UINT what, UINT size,
+                   HRESULT result = S_OK) {
   std::string bytes(80, 'x');
-  EXPECT_EQ(handler->GetCommandString(offset, what, nullptr, bytes.data(), size), S_OK);
+  EXPECT_EQ(handler->GetCommandString(offset, what, nullptr, bytes.data(), size), result);
   return bytes;
 }
 
@@ -174,17 +179,20 @@ TEST_F(RightClicks, HelpTextsAndVerbsStayWithinTheirBuffer) {
     UINT what;
     const char* text;
     bool wide;
+    HRESULT ofNone = S_OK;
   } rows[] = {{GCS_VERBA, "Item0", false},
-              {GCS_VERBW, "", false},
+              {GCS_VERBW, "", true},
               {GCS_HELPTEXTA, "Orvane File - C:\\a.txt", false},
               {GCS_HELPTEXTW, "Orvane File - C:\\a.txt", true},
-              {GCS_VALIDATEA, "", false}};
-  for (const auto& [what, text, wide] : rows) {
+              {GCS_VALIDATEA, "", false, S_FALSE},
+              {GCS_VALIDATEW, "", true, S_FALSE}};
+  for (const auto& [what, text, wide, ofNone] : rows) {
     SCOPED_TRACE(what);
     for (const UINT size : {0u, 1u, 2u, 7u, 40u}) {
       EXPECT_EQ(Answer(click.handler.Get(), 0, what, size), Filled(text, wide, size)) << size;
     }
-    EXPECT_EQ(Answer(click.handler.Get(), 30000, what, 80), std::string(80, 'x')) << "no entry";
+    for (const UINT_PTR offset : {UINT_PTR{30000}, reinterpret_cast<UINT_PTR>("Item0")})
+      EXPECT_EQ(Answer(click.handler.Get(), offset, what, 80, ofNone), std::string(80, 'x'));
     EXPECT_EQ(click.handler->GetCommandString(0, what, nullptr, nullptr, 80), S_OK);
   }
 }

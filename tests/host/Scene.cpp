@@ -9,17 +9,6 @@ namespace {
 
 constexpr wchar_t Settings[] = L"Software\\Tarnwick\\Orvane";
 
-std::wstring CaptionOf(HMENU menu, int position) {
-  wchar_t caption[256] = L"";
-  MENUITEMINFOW info{};
-  info.cbSize = sizeof info;
-  info.fMask = MIIM_STRING;
-  info.dwTypeData = caption;
-  info.cch = 256;
-  GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &info);
-  return caption;
-}
-
 std::wstring TextOf(HMENU menu, std::size_t level) {
   std::wstring text;
   for (int i = 0; i < GetMenuItemCount(menu); ++i) {
@@ -46,6 +35,17 @@ UINT Find(HMENU menu, const std::wstring& caption) {
 }
 
 }  // namespace
+
+std::wstring CaptionOf(HMENU menu, int position) {
+  wchar_t caption[256] = L"";
+  MENUITEMINFOW info{};
+  info.cbSize = sizeof info;
+  info.fMask = MIIM_STRING;
+  info.dwTypeData = caption;
+  info.cch = 256;
+  GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &info);
+  return caption;
+}
 
 Scene::Scene() : m_folder(L"C:\\Orvane Test") {
   std::filesystem::create_directories(m_folder / L"Reports");

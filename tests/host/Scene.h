@@ -30,6 +30,8 @@ class Scene {
   std::filesystem::path m_folder;
 };
 
+std::wstring CaptionOf(HMENU menu, int position);
+
 /// One right-click as the shell does it: a handler made by COM, told the folder and the selection,
 /// asked for its entries. The menu is gone with the object, the handler with its last reference.
 class RightClick {

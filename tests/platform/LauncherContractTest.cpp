@@ -1,7 +1,6 @@
 #include "platform/AnyDesktop.h"
 #ifdef _WIN32
-#include <shlobj.h>
-
+#include "common/TestBrowser.h"
 #include "win32/NativeHandles.h"
 #include "win32/NativeItemIdList.h"
 #endif
@@ -50,45 +49,8 @@ TEST_P(LauncherContract, BrowsesOnlyWithABrowserAndAnItem) {
 }
 
 #ifdef _WIN32
-class TestBrowser : public IShellBrowser {
- public:
-  ItemIdList browsed;
-  int references = 1;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    if (id != IID_IShellBrowser && id != IID_IUnknown) return E_NOINTERFACE;
-    AddRef();
-    *object = this;
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(++references); }
-  ULONG STDMETHODCALLTYPE Release() override { return static_cast<ULONG>(--references); }
-  HRESULT STDMETHODCALLTYPE GetWindow(HWND*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE InsertMenusSB(HMENU, LPOLEMENUGROUPWIDTHS) override {
-    return E_NOTIMPL;
-  }
-  HRESULT STDMETHODCALLTYPE SetMenuSB(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE RemoveMenusSB(HMENU) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE SetStatusTextSB(LPCOLESTR) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE EnableModelessSB(BOOL) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE TranslateAcceleratorSB(LPMSG, WORD) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE BrowseObject(PCUIDLIST_RELATIVE item, UINT) override {
-    browsed = win32::CopyOf(static_cast<PCIDLIST_ABSOLUTE>(item));
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetViewStateStream(DWORD, IStream**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetControlWindow(UINT, HWND*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE SendControlMsg(UINT, UINT, WPARAM, LPARAM, LRESULT*) override {
-    return E_NOTIMPL;
-  }
-  HRESULT STDMETHODCALLTYPE QueryActiveShellView(IShellView**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE OnViewWindowActive(IShellView*) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE SetToolbarItems(LPTBBUTTONSB, UINT, UINT) override { return E_NOTIMPL; }
-};
-
 TEST(Win32Launcher, BrowsesInTheWindowsOwnBrowser) {
-  TestBrowser browser;
+  test::TestBrowser browser;
   const HWND window =
       CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
   SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&browser));
@@ -102,7 +64,7 @@ TEST(Win32Launcher, BrowsesInTheWindowsOwnBrowser) {
   const auto address = launcher.ShellBrowser(win32::FromNative<WindowHandle>(window));
   EXPECT_EQ(address, reinterpret_cast<std::intptr_t>(static_cast<IShellBrowser*>(&browser)));
   EXPECT_EQ(launcher.BrowseObject(address, DesktopItem), S_OK);
-  EXPECT_EQ(browser.browsed, DesktopItem);
+  EXPECT_EQ(win32::CopyOf(browser.browsed.get()), DesktopItem);
   EXPECT_EQ(browser.references, 1);
   EXPECT_EQ(launcher.BrowseObject(address, {}), E_POINTER);
   DestroyWindow(window);

@@ -87,6 +87,42 @@ TEST(Menu, ListsHistoryAndQuickAccess) {
                 resets + L"--------\n");
 }
 
+TEST(Menu, AnswersTheKeyboardWhereItDrawsTheEntries) {
+  RightClick click;
+  click.Set(L"ShellOwnerDraw", 1);
+  click.Add(Item(Data::TypeFile, L"&Editor", L"C:\\a"));
+  const std::int32_t popup = click.Add(Item(Data::TypePopupMenu, L"R&&D &Tools"));
+  click.Add(Item(Data::TypeFile, L"Te&xt", L"C:\\b"));
+  click.Add(Item(Data::TypeFile, L"Xylophone", L"C:\\c"));
+  click.Add(Item(Data::TypeFile, L"Extra", L"C:\\d"));
+  click.Add(Item(Data::TypeFile, L"Quick", L"C:\\e"));
+  click.Add(Item(Data::TypeFile, L"quill", L"C:\\f"));
+  click.Add(Item(Data::TypeFile, L"Inner", L"C:\\g"), popup);
+  click.Click();
+  constexpr std::intptr_t execute = 2 << 16, select = 3 << 16;
+  const struct {
+    const wchar_t* menu;
+    wchar_t key;
+    std::int32_t highlighted;
+    std::intptr_t answer;
+  } rows[] = {{L"Orvane", L'e', -1, execute | 0},  // a marked letter goes before a first one
+              {L"Orvane", L'T', 3, execute | 1},
+              {L"Orvane", L'x', -1, execute | 2},
+              {L"Orvane", L'q', -1, select | 5},
+              {L"Orvane", L'q', 5, select | 6},
+              {L"Orvane", L'Q', 6, select | 5},
+              {L"Orvane", L'&', -1, 0},
+              {L"Orvane", L'z', -1, 0},
+              {L"R&&D &Tools", L'i', -1, execute | 0},
+              {L"", L'o', -1, 0}};  // the shell's menu, whose entries we do not draw
+  for (const auto& row : rows) {
+    click.desktop.menus.highlighted = row.highlighted;
+    const MenuHandle menu = *row.menu ? click.Submenu(row.menu) : click.shellMenu;
+    EXPECT_EQ(click.handler->Menu().Type(menu, row.key), row.answer)
+        << static_cast<char>(row.key) << row.highlighted;
+  }
+}
+
 TEST(Menu, MarksTheFolderItIsFor) {
   RightClick click;
   click.Set(L"ShellShowIcons", 2);

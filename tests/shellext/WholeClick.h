@@ -44,8 +44,9 @@ class WholeClick : public RightClick {
   }
 
   std::int32_t Invoke(std::int32_t offset) {
-    return handler->IContextMenu_InvokeCommand(
-        {.window = {}, .byOffset = true, .offset = offset, .verb = {}});
+    return handler
+        ->IContextMenu_InvokeCommand({.window = {}, .byOffset = true, .offset = offset, .verb = {}})
+        .result;
   }
 
  private:
