@@ -2,6 +2,7 @@
 
 #include <servprov.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -21,6 +22,11 @@ using Microsoft::WRL::ComPtr;
 // The low 32 bits of an address or a key, for the log.
 std::int32_t Number(const void* address) {
   return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(address));
+}
+
+/// At most `last`, which counts as 0 when it is negative.
+std::int32_t Bounded(UINT number, int last = INT32_MAX) {
+  return static_cast<std::int32_t>(std::min(number, static_cast<UINT>(std::max(last, 0))));
 }
 
 /// The browser of the window that the site lies in; null without.
@@ -98,9 +104,9 @@ HRESULT ComContextMenuHandler::QueryContextMenu(HMENU menu, UINT index, UINT fir
                                                 UINT flags) noexcept {
   if (!menu) return E_INVALIDARG;
   return Serve(S_OK, [&] {
-    return m_handler.IContextMenu_QueryContextMenuEx(
-        win32::FromNative<MenuHandle>(menu), static_cast<std::int32_t>(index),
-        static_cast<std::int32_t>(first), static_cast<std::int32_t>(last), flags);
+    return m_handler.IContextMenu_QueryContextMenuEx(win32::FromNative<MenuHandle>(menu),
+                                                     Bounded(index, GetMenuItemCount(menu)),
+                                                     Bounded(first), Bounded(last), flags);
   });
 }
 
