@@ -79,7 +79,7 @@ void BenchFirstMenu(Scene& scene, PCIDLIST_ABSOLUTE folder) {
     const std::filesystem::path from =
         std::filesystem::path(LibraryPath()).replace_filename(library);
     const std::wstring to = scene.Path((std::to_wstring(run) + library).c_str());
-    std::filesystem::copy_file(from, to);
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing);
     return to;
   };
   for (int run = 0; run < Runs; ++run) {
