@@ -26,8 +26,7 @@ bool PreviewMenu::Message(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& r
     case WM_MEASUREITEM:
     case WM_DRAWITEM:
     case WM_MENUCHAR:
-      windowing::HandleMenuMsg2(m_open->Handler().Menu(), message, wParam, lParam);
-      result = 0;
+      result = windowing::HandleMenuMsg2(m_open->Handler().Menu(), message, wParam, lParam);
       return true;
     default:
       return false;
