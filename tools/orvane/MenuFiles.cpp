@@ -93,8 +93,11 @@ MenuFiles::MenuFiles(const MenuOptions& options)
 }
 
 ParsedMenu MenuFiles::Read(const std::string& path) {
+  return Read(path, {m_codePage, m_hasFiles ? &Files() : nullptr});
+}
+
+ParsedMenu MenuFiles::Read(const std::string& path, const MenuSurroundings& surroundings) {
   const std::string content = ReadInput(path);
-  const MenuSurroundings surroundings{m_codePage, m_hasFiles ? &Files() : nullptr};
   if (!IsDefinition(content, path)) {
     ParsedMenu parsed = ParseMenu(content, Sources(path));
     CheckParsed(parsed, surroundings);
@@ -113,7 +116,8 @@ ParsedMenu MenuFiles::Read(const std::string& path) {
 }
 
 MenuDocument MenuFiles::ReadSound(const std::string& path) {
-  ParsedMenu parsed = Read(path);
+  // A location that is not there is no error, and looking for thousands of them takes its time.
+  ParsedMenu parsed = Read(path, {m_codePage});
   std::string errors;
   for (const Finding& finding : parsed.findings) {
     if (finding.severity != Finding::Severity::Error) continue;

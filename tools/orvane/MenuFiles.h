@@ -54,6 +54,7 @@ class MenuFiles {
   memory::Desktop& Desktop() { return m_desktop; }
 
  private:
+  ParsedMenu Read(const std::string& path, const MenuSurroundings& surroundings);
   std::string ReadInput(const std::string& path);
   MenuDocument Decode(const std::string& content);
   DocumentSources Sources(const std::string& path);
