@@ -20,3 +20,14 @@ endif()
 
 # For resource scripts: #include "Version.h".
 configure_file(${CMAKE_CURRENT_LIST_DIR}/Version.h.in ${CMAKE_BINARY_DIR}/version/Version.h)
+
+# orvane_version_resource(TARGET NAME DESCRIPTION): for the program NAME.exe.
+function(orvane_version_resource target name description)
+  if(WIN32)
+    set(script ${CMAKE_BINARY_DIR}/version/${name}.rc)
+    configure_file(${CMAKE_SOURCE_DIR}/cmake/program.rc.in ${script})
+    set_source_files_properties(${script} PROPERTIES INCLUDE_DIRECTORIES ${CMAKE_BINARY_DIR}/version
+                                OBJECT_DEPENDS ${CMAKE_BINARY_DIR}/version/Version.h)
+    target_sources(${target} PRIVATE ${script})
+  endif()
+endfunction()

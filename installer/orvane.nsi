@@ -7,6 +7,7 @@
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
+SetDateSave off  ; the same bytes from each build
 RequestExecutionLevel user
 ManifestDPIAware true
 Name "Orvane"

@@ -170,6 +170,20 @@ void clsOptions::Reg_Load(const SettingsServices& services, const std::wstring& 
   ProcessSettings(services, false, true);
 }
 
+std::vector<std::wstring> clsOptions::UnreadableValues(Registry& registry,
+                                                       const std::wstring& key) {
+  std::vector<std::wstring> names;
+  std::unique_ptr<RegistryKey> open;
+  if (registry.OpenToRead(Hive::CurrentUser, key, open) != 0) return names;
+  clsOptions scratch;
+  for (const Setting& setting : Settings) {
+    const auto read = [&](auto field) { return ReadValue(*open, setting.value, scratch.*field); };
+    const std::int32_t error = std::visit(read, setting.field);
+    if (error != 0 && error != RegistryKey::NotFound) names.push_back(setting.value);
+  }
+  return names;
+}
+
 std::wstring clsOptions::Reg_Save(const SettingsServices& services, std::wstring key,
                                   bool debugSettingsOnly) {
   if (key.empty()) key = m_szPath;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -87,6 +88,9 @@ class clsOptions {
   /// Reads the settings from a key under HKEY_CURRENT_USER and applies them; what is missing there,
   /// or of another type, gets its default.
   void Reg_Load(const SettingsServices& services, const std::wstring& key);
+
+  /// The values of the key that are there and that Reg_Load cannot read.
+  static std::vector<std::wstring> UnreadableValues(Registry& registry, const std::wstring& key);
 
   /// Writes the settings, or the four of the debug menu only, which then restarts the debug trace.
   /// An empty key means m_szPath. Gives back the key that was written to.

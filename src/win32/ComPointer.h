@@ -23,6 +23,7 @@ class ComPointer {
   }
 
   Interface* operator->() const { return m_object; }
+  Interface* Get() const { return m_object; }
   explicit operator bool() const { return m_object != nullptr; }
 
   /// For calls that hand out a reference; the pointer must be empty.

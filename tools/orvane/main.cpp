@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "DoctorCommand.h"
 #include "Host.h"
 #include "MenuCommand.h"
 #include "PreviewCommand.h"
@@ -18,6 +19,7 @@ namespace {
 void AddSubcommands(CLI::App& app, int& exitCode) {
   AddMenuCommand(app, exitCode);
   AddPreviewCommand(app);
+  AddDoctorCommand(app, exitCode);
 }
 
 int Run(std::vector<std::string> arguments) {
