@@ -69,7 +69,25 @@ void FirstMenu(const std::wstring& library, PCIDLIST_ABSOLUTE folder) {
   FreeLibrary(module);
 }
 
+/// The version of comctl32 that the DLL's manifest names; the desktop has it loaded anyway.
+HMODULE DesktopControls() {
+  ACTCTXW request{};
+  request.cbSize = sizeof request;
+  request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+  const std::wstring library = LibraryPath();
+  request.lpSource = library.c_str();
+  request.lpResourceName = ISOLATIONAWARE_MANIFEST_RESOURCE_ID;
+  const HANDLE context = CreateActCtxW(&request);
+  ULONG_PTR cookie = 0;
+  if (context == INVALID_HANDLE_VALUE || !ActivateActCtx(context, &cookie)) return nullptr;
+  const HMODULE controls = LoadLibraryW(L"comctl32.dll");
+  DeactivateActCtx(0, cookie);
+  ReleaseActCtx(context);
+  return controls;
+}
+
 void BenchFirstMenu(Scene& scene, PCIDLIST_ABSOLUTE folder) {
+  if (!DesktopControls()) std::fprintf(stderr, "no controls of the desktop's version\n");
   scene.PlainText();
   WriteFileItems(scene.Path(L"Menu.cfg"), 20);
   // The module stays in the process, so that each run loads a copy of its own.

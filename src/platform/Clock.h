@@ -19,7 +19,7 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  /// Milliseconds since some start; wraps around (timeGetTime).
+  /// Milliseconds since some start; wraps around.
   virtual std::uint32_t Ticks() = 0;
   virtual LocalTime Now() = 0;
   virtual void Pause(std::uint32_t milliseconds) = 0;

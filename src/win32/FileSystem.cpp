@@ -118,19 +118,8 @@ std::optional<std::uint32_t> FileSystem::Attributes(const std::wstring& path,
   return answer.attributes;
 }
 
-/// Asking a drive for its kind takes as long as listing a folder, or, under Wine, a hundred files.
-bool FileSystem::LiesOnNetwork(const std::wstring& folder) {
-  constexpr std::uint64_t Lifetime = 2000;
-  const std::size_t colon = folder.find(L':');
-  if (colon == std::wstring::npos) return IsOnNetwork(folder);
-  const std::wstring_view drive = std::wstring_view(folder).substr(0, colon + 1);
-  const std::uint64_t now = GetTickCount64();
-  if (drive != m_drive || now - m_driveAsked > Lifetime) {
-    m_driveIsRemote = IsOnNetwork(folder);
-    m_drive = drive;
-    m_driveAsked = now;
-  }
-  return m_driveIsRemote;
+bool FileSystem::LiesOnNetwork(const std::wstring& path) {
+  return IsOnNetwork(path);
 }
 
 std::unique_ptr<DirectoryListing> FileSystem::List(const std::wstring& folder,

@@ -34,9 +34,6 @@ class FileSystem : public orvane::FileSystem {
   auto Within(const std::wstring& path, const Patience& patience, Ask ask);
 
   std::uint32_t m_lastError = 0;
-  std::wstring m_drive;  // the last one that was asked for its kind
-  bool m_driveIsRemote = false;
-  std::uint64_t m_driveAsked = 0;  // milliseconds since the system's start
 };
 
 }  // namespace orvane::win32

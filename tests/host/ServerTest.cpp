@@ -85,7 +85,7 @@ TEST(ServerLifetime, TwoHundredCyclesOfUseAndUnloadHoldNothing) {
 constexpr const char* SystemDlls[] = {"advapi32.dll", "comctl32.dll", "gdi32.dll",   "kernel32.dll",
                                       "msvcrt.dll",   "ntdll.dll",    "ole32.dll",   "oleaut32.dll",
                                       "psapi.dll",    "shell32.dll",  "shlwapi.dll", "user32.dll",
-                                      "version.dll",  "winmm.dll",    "ws2_32.dll"};
+                                      "version.dll",  "ws2_32.dll"};
 
 TEST_F(Server, ImportsOnlySystemDlls) {
   const auto* base = reinterpret_cast<const char*>(library.Module());
