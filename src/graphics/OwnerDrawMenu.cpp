@@ -6,15 +6,11 @@
 #include "support/Trace.h"
 
 namespace orvane {
-namespace {
 
-IconFile IconFileOf(const MenuItem& item) {
-  const clsOrvaneData& record = *item.command.Record();
-  return {item.iconFile ? *item.iconFile : std::wstring(record.Location()), !record.IsTypeFile(),
-          item.command.IsFileName()};
+IconFile IconFileOf(const Command& command) {
+  const clsOrvaneData& record = *command.Record();
+  return {record.Location(), !record.IsTypeFile(), command.IsFileName()};
 }
-
-}  // namespace
 
 void OwnerDrawMenu::ShellMenu(MenuHandle menu) {
   m_shellMenu = menu;
@@ -60,23 +56,27 @@ bool OwnerDrawMenu::Insert(MenuHandle menu, std::int32_t position, MenuItem& ite
 void OwnerDrawMenu::AddPicture(const MenuItem& item, Picture picture, MenuEntry& entry) {
   clsCollection::Node& shown = item.command.Record()->m_oBitmap;
   if (picture == Picture::OwnIcon && entry.ownerDraw) {
-    shown = PictureStore::IconToFetch(IconFileOf(item));
+    shown = item.iconFile ? PictureStore::IconToFetch(*item.iconFile) : m_pictures.IconToFetch();
     return;
   }
-  const std::int32_t size = m_painter.PictureSize();
-  clsCollection::Node found = picture == Picture::OwnIcon
-                                  ? m_pictures.FindIcon(IconFileOf(item), size)
-                                  : m_pictures.Find(picture);
+  clsCollection::Node found =
+      picture == Picture::OwnIcon ? FindIcon(item) : m_pictures.Find(picture);
   if (!found) {
     Log(L"Bitmap not found!");
     return;
   }
   shown = std::move(found);
   const BitmapHandle scaled = PictureStore::CheckMark(shown);
-  const BitmapHandle full = m_pictures.Full(shown, size);
+  const BitmapHandle full = PictureStore::Full(shown);
   Log(L"ScaledBitmap=", Hex(scaled), L"  NormalBitmap=", Hex(full));
   entry.bitmap = entry.ownerDraw ? full : scaled;
   Log(L"Bitmap=", Hex(entry.bitmap));
+}
+
+PictureStore::Node OwnerDrawMenu::FindIcon(const MenuItem& item) {
+  IconFile file = IconFileOf(item.command);
+  if (item.iconFile) file.path = *item.iconFile;
+  return m_pictures.FindIcon(file, m_painter.PictureSize());
 }
 
 }  // namespace orvane

@@ -22,6 +22,9 @@ struct MenuItem {
   UniqueMenu submenu = {};
 };
 
+/// The file whose icon an item shows as its own.
+IconFile IconFileOf(const Command& command);
+
 /// Inserts entries with their pictures.
 class OwnerDrawMenu {
  public:
@@ -40,6 +43,7 @@ class OwnerDrawMenu {
  private:
   bool Insert(MenuHandle menu, std::int32_t position, MenuItem& item);
   void AddPicture(const MenuItem& item, Picture picture, MenuEntry& entry);
+  PictureStore::Node FindIcon(const MenuItem& item);
 
   const clsOptions& m_options;
   Menus& m_menus;

@@ -18,12 +18,6 @@ struct OwnedBitmaps : Object {
   UniqueBitmap full;
 };
 
-struct FileToFetch : Object {
-  explicit FileToFetch(IconFile iconFile) : file(std::move(iconFile)) {}
-
-  IconFile file;
-};
-
 /// The hidden surface on which icons are turned into bitmaps: a memory context that holds bitmaps
 /// of the screen's kind, which a fresh one does not.
 class PictureSurface {
@@ -107,16 +101,20 @@ PictureStore::Node PictureStore::Keep(std::int32_t key, UniqueBitmap scaled, Uni
   return node;
 }
 
-PictureStore::Node PictureStore::IconToFetch(IconFile file) {
+PictureStore::Node PictureStore::IconToFetch(const std::wstring& path) {
   auto node = std::make_shared<clsCollection>();
   node->m_lKey = Key(Picture::OwnIcon);
-  node->m_oData = std::make_shared<FileToFetch>(std::move(file));
+  node->m_szFilename = path;
   return node;
 }
 
-BitmapHandle PictureStore::Full(Node& picture, std::int32_t size) {
-  if (IsToFetch(picture))
-    picture = FindIcon(static_cast<const FileToFetch&>(*picture->m_oData).file, size);
+void PictureStore::Fetch(Node& picture, IconFile own, std::int32_t size) {
+  if (!IsToFetch(picture)) return;
+  if (picture != m_iconToFetch) own.path = picture->m_szFilename;
+  picture = FindIcon(own, size);
+}
+
+BitmapHandle PictureStore::Full(const Node& picture) {
   return picture ? ToHandle<BitmapHandle>(picture->m_lData2) : BitmapHandle::None;
 }
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "graphics/IconFinder.h"
@@ -32,14 +33,18 @@ class PictureStore {
   /// The file's icon at `size` pixels; the bitmap for unknown files when there is none.
   Node FindIcon(const IconFile& file, std::int32_t size);
 
-  /// Stands for the icon of a file that nobody has seen yet.
-  static Node IconToFetch(IconFile file);
+  /// Stands for the icon of an item's own file, which nobody has seen yet. One serves all: a menu
+  /// may have thousands.
+  const Node& IconToFetch() const { return m_iconToFetch; }
+  /// The same for a file that is not the item's own.
+  static Node IconToFetch(const std::wstring& path);
 
-  /// The picture at its full size, None for no node. An icon to fetch is fetched and takes the
-  /// node's place.
-  BitmapHandle Full(Node& picture, std::int32_t size);
+  /// Has an icon that is to be fetched take the node's place, at `size` pixels; `own` is the item's
+  /// own file. Does nothing to other nodes.
+  void Fetch(Node& picture, IconFile own, std::int32_t size);
 
-  /// The picture at the size of a check mark; None for no node.
+  // The picture at its full size and at that of a check mark; None for no node.
+  static BitmapHandle Full(const Node& picture);
   static BitmapHandle CheckMark(const Node& picture);
 
   /// Pictures that are loaded.
@@ -50,7 +55,7 @@ class PictureStore {
 
   Node Load(Picture picture);
   Node Convert(const SystemIcon& icon, std::int32_t size);
-  Node Keep(std::int32_t key, UniqueBitmap scaled, UniqueBitmap normal);
+  Node Keep(std::int32_t key, UniqueBitmap scaled, UniqueBitmap full);
 
   Gdi& m_gdi;
   ShellIcons& m_icons;
@@ -60,6 +65,7 @@ class PictureStore {
   clsCollection m_colBitmaps;
   std::map<Picture, Node> m_pictures;  // none for one that could not be loaded
   std::map<IconKey, Node> m_converted;
+  Node m_iconToFetch = IconToFetch(std::wstring());
 };
 
 }  // namespace orvane

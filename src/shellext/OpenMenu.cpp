@@ -70,8 +70,9 @@ BitmapHandle OpenMenu::OwnerDrawMenu_HasBitmap(std::int32_t lId) {
   TraceScope scope(L"OwnerDrawMenu_HasBitmap");
   const Command command = Find(lId);
   if (!command) return BitmapHandle::None;
-  const BitmapHandle bitmap =
-      m_state.pictures.Full(command.Record()->m_oBitmap, m_painter.PictureSize());
+  PictureStore::Node& picture = command.Record()->m_oBitmap;
+  m_state.pictures.Fetch(picture, IconFileOf(command), m_painter.PictureSize());
+  const BitmapHandle bitmap = PictureStore::Full(picture);
   if (bitmap == BitmapHandle::None)
     Log(L"Bitmap not found!");
   else

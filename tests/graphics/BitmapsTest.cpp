@@ -98,9 +98,9 @@ TEST_P(BitmapsTest, EveryBitmapOfTheModule) {
   memory::Desktop desktop;
   PictureStore pictures(m_gdi, desktop.icons, desktop.files);
   for (std::int32_t key = 1; key <= 9; ++key) {
-    PictureStore::Node node = pictures.Find(static_cast<Picture>(key));
+    const PictureStore::Node node = pictures.Find(static_cast<Picture>(key));
     EXPECT_TRUE(m_gdi.Describe(PictureStore::CheckMark(node))) << key;
-    const auto shape = m_gdi.Describe(pictures.Full(node, 16));
+    const auto shape = m_gdi.Describe(PictureStore::Full(node));
     ASSERT_TRUE(shape) << key;
     EXPECT_EQ(shape->width, 16);
   }

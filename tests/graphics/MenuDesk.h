@@ -73,13 +73,13 @@ struct MenuDesk {
 
   const MenuEntry& Entry(std::size_t position) { return desktop.menus.Entries(menu).at(position); }
   BitmapHandle PictureOf(std::int32_t id) {
-    return pictures.Full(commands.Find(id).Record()->m_oBitmap, painter.PictureSize());
+    const Command command = commands.Find(id);
+    PictureStore::Node& picture = command.Record()->m_oBitmap;
+    pictures.Fetch(picture, IconFileOf(command), painter.PictureSize());
+    return PictureStore::Full(picture);
   }
   /// A bitmap of the module, at its full size.
-  BitmapHandle Loaded(Picture picture) {
-    PictureStore::Node node = pictures.Find(picture);
-    return pictures.Full(node, 16);
-  }
+  BitmapHandle Loaded(Picture picture) { return PictureStore::Full(pictures.Find(picture)); }
 
   memory::Desktop desktop;
   Gdi& gdi;
