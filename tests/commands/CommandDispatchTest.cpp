@@ -1,5 +1,7 @@
 #include "commands/CommandDispatch.h"
 
+#include <algorithm>
+
 #include "Scene.h"
 
 namespace orvane::test {
@@ -88,13 +90,13 @@ TEST_F(Dispatch, VerbsOpenTheSelectedFileAndFoldersWhateverKeyIsHeld) {
 TEST_F(Dispatch, FirstEntryTogglesDebuggingWhenTheMenuHasThatEntry) {
   options.m_bDebugEnableInMenu = true;
   Add(Data::TypeFile, L"C:\\one.txt");
-  Lines saved = Invoke(0);
-  const auto isDebug = [](const std::string& line) { return line.find("name=Debug") != line.npos; };
-  EXPECT_GT(std::erase_if(saved, isDebug), 0u);
-  EXPECT_EQ(saved, Lines{}) << "no other setting";
-  EXPECT_TRUE(options.m_bDebugEnable);
-  Invoke(0);
-  EXPECT_FALSE(options.m_bDebugEnable);
+  for (const std::uint32_t on : {1u, 0u}) {
+    const Lines lines = Invoke(0);
+    EXPECT_EQ(options.m_bDebugEnable, on == 1);
+    EXPECT_EQ(desktop.registry.FindNumber(Hive::CurrentUser, options.m_szPath, L"DebugEnable"), on);
+    const auto isSaved = [](const std::string& line) { return line.starts_with("RegSet"); };
+    EXPECT_EQ(std::ranges::count_if(lines, isSaved), 4) << "the debug settings alone";
+  }
   options.m_bDebugEnableInMenu = false;
   EXPECT_EQ(Invoke(0), (Lines{"ShellExecuteEx file=C:\\one.txt show=5"}));
 }
