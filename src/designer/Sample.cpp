@@ -16,7 +16,7 @@ std::wstring Sample::Text() const {
 }
 
 Sample SampleOf(const std::vector<std::wstring>& paths) {
-  Sample sample;
+  Sample sample{.folder = {}, .names = {}};
   for (const std::wstring& path : paths) {
     const std::size_t name = path.find_last_of(L'\\') + 1;
     // A drive's root keeps its backslash.

@@ -11,7 +11,7 @@ namespace orvane::designer {
 /// is the folder's background that is clicked.
 struct Sample {
   std::wstring folder = L"C:\\";
-  std::vector<std::wstring> names = {};  // without the folder
+  std::vector<std::wstring> names = {L"Example.txt"};  // without the folder
 
   std::vector<std::wstring> Paths() const;
   /// "2 items in C:\Work".

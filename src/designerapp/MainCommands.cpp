@@ -414,14 +414,13 @@ void MainWindow::About() {
 
 void MainWindow::Guide() {
   const std::wstring folder = m_program.platform.system.ProgramFolder();
-  for (const wchar_t* place :
-       {L"\\docs\\designer.html", L"\\docs\\designer.md", L"\\..\\docs\\designer.md"}) {
+  for (const wchar_t* place : {L"\\designer.md", L"\\docs\\designer.md"}) {
     const std::wstring path = folder + place;
     if (!FileExists(m_program.platform.files, path)) continue;
     ShellExecuteW(Handle(), L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     return;
   }
-  throw Error(Error::InvalidArgument, L"The guide is not in " + folder + L"\\docs.");
+  throw Error(Error::InvalidArgument, L"The guide is not in " + folder + L'.');
 }
 
 }  // namespace orvane::designerapp

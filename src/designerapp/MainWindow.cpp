@@ -23,6 +23,14 @@ constexpr UINT HandOverMessage = WM_APP + 1;
 
 constexpr DWORD Style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
+/// As large as is comfortable and the screen allows.
+SIZE FirstSize(UINT dpi) {
+  RECT screen{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+  return {std::min<LONG>(Scaled(900, dpi), screen.right - screen.left),
+          std::min<LONG>(Scaled(620, dpi), screen.bottom - screen.top)};
+}
+
 bool IsTextField(HWND window) {
   wchar_t name[16] = L"";
   GetClassNameW(window, name, 16);
@@ -45,8 +53,8 @@ void MainWindow::Open(const std::wstring& path, int show) {
   const RECT place{CW_USEDEFAULT, 0, CW_USEDEFAULT, 0};
   Create({MainWindowClass, L"Orvane Designer", Style, WS_EX_ACCEPTFILES}, place, nullptr,
          LoadMenuW(m_program.instance, MAKEINTRESOURCEW(IDR_MAIN)));
-  const UINT dpi = DpiOf(Handle());
-  SetWindowPos(Handle(), nullptr, 0, 0, Scaled(900, dpi), Scaled(620, dpi),
+  const SIZE size = FirstSize(DpiOf(Handle()));
+  SetWindowPos(Handle(), nullptr, 0, 0, size.cx, size.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   m_files.Owner(Handle());
   m_recent.Attach(GetSubMenu(GetMenu(Handle()), 0));
@@ -283,6 +291,7 @@ void MainWindow::Removing(designer::MenuItem& item) {
 void MainWindow::Changed(designer::MenuItem& item) {
   m_tree.Changed(item);
   m_properties.Refresh(item);
+  if (&item == m_tree.Current()) Status(m_program.globals.tools.GetDesignerDescription(item.data));
 }
 
 void MainWindow::Clearing() {

@@ -243,7 +243,17 @@ void PropertyPane::Arrange() {
   int y = gap;
   Place(m_kind, gap, y, right - gap, line);
   y += step;
+  bool isSecond = false;  // of two check boxes in a line
   for (const Row& row : m_rows) {
+    if (row.bit) {
+      const int half = (right - fields) / 2;
+      isSecond = isSecond && row.bit != &row.field->bits.front();
+      if (isSecond) y -= step;
+      Place(row.control, isSecond ? fields + half : fields, y, half, line);
+      isSecond = !isSecond;
+      y += step;
+      continue;
+    }
     const int browse = row.browse ? Scaled(28, m_dpi) : 0;
     Place(row.label, gap, y + Scaled(3, m_dpi), fields - gap, line - Scaled(3, m_dpi));
     if (row.browse) Place(row.browse, right - browse, y, browse, line);

@@ -73,6 +73,20 @@ class Designer {
     }
   }
 
+  /// What a text of the designer is once it is `expected`, or still is after ten seconds: a slow
+  /// machine takes a while over keys.
+  template <class Text>
+  std::wstring Once(const std::wstring& expected, Text text) {
+    for (int i = 0; i < 200 && text() != expected; ++i) User::Wait(50);
+    return text();
+  }
+  void ExpectShown(const std::wstring& expected) {
+    EXPECT_EQ(Once(expected, [&] { return Shown(); }), expected);
+  }
+  void ExpectTitle(const std::wstring& expected) {
+    EXPECT_EQ(Once(expected, [&] { return Title(); }), expected);
+  }
+
   /// The menu in the file.
   std::wstring Saved() {
     Program other(program.instance);
@@ -93,20 +107,20 @@ TEST(Keyboard, BuildsAMenuFromNothingToTheSavedFile) {
   designer.Open();
   User user;
   user.Type(L"%ip{F2}").Type(L"Tools{ENTER}");  // a popup, renamed
-  EXPECT_EQ(designer.Shown(), L"Tools");
+  designer.ExpectShown(L"Tools");
   user.Type(L"%it{F2}").Type(L"List{ENTER}");  // a task in it
   user.Type(L"%is");                           // a line behind it
   user.Type(L"%{UP}");
-  EXPECT_EQ(designer.Shown(), L"Tools(- List)");
+  designer.ExpectShown(L"Tools(- List)");
   user.Type(L"%{LEFT}");
-  EXPECT_EQ(designer.Shown(), L"Tools(List) -");
+  designer.ExpectShown(L"Tools(List) -");
   user.Type(L"^z^z^z");
-  EXPECT_EQ(designer.Shown(), L"Tools(List)");
+  designer.ExpectShown(L"Tools(List)");
   user.Type(L"^y");
-  EXPECT_EQ(designer.Shown(), L"Tools(List -)");
-  EXPECT_EQ(designer.Title(), L"*menu.cfg - Orvane Designer");
+  designer.ExpectShown(L"Tools(List -)");
+  designer.ExpectTitle(L"*menu.cfg - Orvane Designer");
   user.Type(L"^s");
-  EXPECT_EQ(designer.Title(), L"menu.cfg - Orvane Designer");
+  designer.ExpectTitle(L"menu.cfg - Orvane Designer");
   EXPECT_EQ(designer.Saved(), L"Tools(List -)");
 }
 
@@ -117,17 +131,19 @@ TEST(Keyboard, EditsPropertiesAndKeepsTheTextFieldsOwnKeys) {
   User user;
   user.Type(L"%ia{F6}");
   user.Type(L"Type it{TAB}ab~");
+  designer.ExpectShown(L"Type it");
   MenuItem& action = *designer.program.document.Top().children[0]->children[0];
+  const auto script = [&] { return std::wstring(action.data.m_szAction_Actions); };
+  EXPECT_EQ(designer.Once(L"ab~", script), L"ab~");
   EXPECT_EQ(action.data.Caption(), L"Type it");
-  EXPECT_EQ(action.data.m_szAction_Actions, L"ab~");
   user.Type(L"{DEL}^a{DEL}");  // in the field, not of the item
-  EXPECT_EQ(designer.Shown(), L"Type it");
-  EXPECT_EQ(action.data.m_szAction_Actions, L"");
+  EXPECT_EQ(designer.Once(L"", script), L"");
+  designer.ExpectShown(L"Type it");
   SetFocus(GetDlgItem(designer.window->Handle(), IDC_TREE));
   user.Type(L"^c^v^x");
-  EXPECT_EQ(designer.Shown(), L"Type it");
+  designer.ExpectShown(L"Type it");
   user.Type(L"^d^d{DEL}");
-  EXPECT_EQ(designer.Shown(), L"Type it Type it");
+  designer.ExpectShown(L"Type it Type it");
 }
 
 /// Text of the message box that is open, which it closes.
@@ -156,8 +172,9 @@ TEST(Preview, TellsWhatAnEntryDoes) {
   designer.Open();
   const UINT_PTR timer = SetTimer(nullptr, 0, 100, CloseBox);
   User().Type(L"{F5}{DOWN}{RIGHT}{ENTER}");
+  const std::wstring opens = L"Opens C:\\windows\\system32\\notepad.exe.";
+  EXPECT_EQ(designer.Once(opens, [] { return s_box; }), opens);
   KillTimer(nullptr, timer);
-  EXPECT_EQ(s_box, L"Opens C:\\windows\\system32\\notepad.exe.");
 }
 
 TEST(OpeningEditingPreviewingAndClosing, LeavesNothingBehind) {
