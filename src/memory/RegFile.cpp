@@ -35,10 +35,16 @@ void Apply(const RegFileChange& change, Registry& registry) {
 
 }  // namespace
 
+std::vector<RegFileChange> ReadRegFile(std::span<const std::byte> bytes) {
+  return RegFileParser(DecodeExport(bytes)).Parse();
+}
+
+void ApplyRegFile(std::span<const RegFileChange> changes, Registry& registry) {
+  for (const RegFileChange& change : changes) Apply(change, registry);
+}
+
 void ImportRegFile(std::span<const std::byte> bytes, Registry& registry) {
-  for (const RegFileChange& change : RegFileParser(DecodeExport(bytes)).Parse()) {
-    Apply(change, registry);
-  }
+  ApplyRegFile(ReadRegFile(bytes), registry);
 }
 
 }  // namespace orvane::memory

@@ -1,7 +1,5 @@
 #include "memory/RegFileParser.h"
 
-#include <utility>
-
 #include "memory/RegistryText.h"
 #include "support/Error.h"
 #include "support/Text.h"
@@ -10,18 +8,10 @@ namespace orvane::memory {
 
 namespace {
 
-constexpr std::wstring_view Header = L"Windows Registry Editor Version 5.00";
-
-constexpr std::pair<std::wstring_view, Hive> HiveNames[] = {
-    {L"hkey_classes_root", Hive::ClassesRoot},     {L"hkey_current_user", Hive::CurrentUser},
-    {L"hkey_local_machine", Hive::LocalMachine},   {L"hkey_users", Hive::Users},
-    {L"hkey_current_config", Hive::CurrentConfig}, {L"hkey_dyn_data", Hive::DynData},
-};
-
 std::optional<Hive> FindHive(std::wstring_view name) {
   const std::wstring lower = LowerCase(name);
   for (const auto& [hiveName, hive] : HiveNames) {
-    if (lower == hiveName) return hive;
+    if (lower == LowerCase(hiveName)) return hive;
   }
   return std::nullopt;
 }
@@ -92,10 +82,10 @@ void RegFileParser::EndLine() {
 }
 
 void RegFileParser::ParseHeader() {
-  if (!m_rest.starts_with(Header)) {
+  if (!m_rest.starts_with(RegFileHeader)) {
     Fail(L"the file does not begin with \"Windows Registry Editor Version 5.00\"");
   }
-  m_rest.remove_prefix(Header.size());
+  m_rest.remove_prefix(RegFileHeader.size());
   EndLine();
 }
 

@@ -5,20 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Registry.h"
+#include "memory/RegFileChange.h"
 
 namespace orvane::memory {
-
-/// What a registry export asks for.
-struct RegFileChange {
-  enum class Kind { AddKey, RemoveKey, Set, RemoveValue };
-
-  Kind kind = Kind::AddKey;
-  Hive hive = Hive::CurrentUser;
-  std::wstring path;
-  std::wstring name = {};
-  RegistryValue value = {};
-};
 
 /// Reads the text of a registry export. Throws an Error that names the line.
 class RegFileParser {

@@ -5,9 +5,9 @@
 #include <memory>
 #include <optional>
 #include <utility>
-#include <variant>
 
 #include "menudata/RegistryAccess.h"
+#include "menudata/SettingsTable.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Locale.h"
@@ -23,54 +23,9 @@
 namespace orvane {
 namespace {
 
-using Field =
-    std::variant<std::wstring clsOptions::*, bool clsOptions::*, std::int32_t clsOptions::*>;
-
-enum class Use {
-  LoadAndSave,
-  Debug,  // loaded, and saved before the rest: the settings of the debug menu
-  LoadOnly,
-  SaveOnly,
-};
-
-/// A setting and its registry value; the field's type says which kind of value that is.
-struct Setting {
-  const wchar_t* value;
-  Field field;
-  Use use = Use::LoadAndSave;
-};
-
-// In the order in which they are read and written. "ShelllMax..." is how the designer spells it.
-constexpr Setting Settings[] = {
-    {L"ShellEnable", &clsOptions::m_bShellEnable},
-    {L"ShellShowInIE", &clsOptions::m_bShellShowInIE},
-    {L"ShellShowIcons", &clsOptions::m_lShellShowIcons},
-    {L"ShellUseOwnFolderBitmap", &clsOptions::m_bShellUseOwnFolderBitmap},
-    {L"ShellShowHistoryMRU", &clsOptions::m_lShellShowHistoryMRU},
-    {L"ShelllMaxHistoryMRU", &clsOptions::m_lShellMaxHistoryMRU},
-    {L"ShellShowQuickAccessMRU", &clsOptions::m_lShellShowQuickAccessMRU},
-    {L"ShelllMaxQuickAccessMRU", &clsOptions::m_lShellMaxQuickAccessMRU, Use::SaveOnly},
-    {L"ShellShowFlags", &clsOptions::m_lShellShowFlags},
-    {L"ShellConfigFile", &clsOptions::m_szShellConfigFile},
-    {L"ShellCustomActionsFile", &clsOptions::m_szShellCustomActionsFile},
-    {L"ShellMaxMenuText", &clsOptions::m_lShellMaxMenuText},
-    {L"ShellIgnoreBoundsCheck", &clsOptions::m_bShellIgnoreBoundsCheck},
-    {L"ShellOwnerDraw", &clsOptions::m_bShellOwnerDraw},
-    {L"DebugFlags", &clsOptions::m_lDebugFlags, Use::LoadOnly},
-    {L"DebugEnable", &clsOptions::m_bDebugEnable, Use::Debug},
-    {L"DebugOutput", &clsOptions::m_szDebugOutput, Use::Debug},
-    {L"DebugShowWindowsMenuInfo", &clsOptions::m_bDebugShowWindowsMenuInfo, Use::Debug},
-    {L"DebugEnableInMenu", &clsOptions::m_bDebugEnableInMenu, Use::Debug},
-    {L"TimingEnable", &clsOptions::m_bTimingEnable},
-    {L"TimingOutput", &clsOptions::m_szTimingOutput},
-    {L"GeneralShowBackground", &clsOptions::m_bGeneralShowBackground},
-    {L"GeneralAllowMultipleInstances", &clsOptions::m_bGeneralAllowMultipleInstances},
-    {L"GeneralSaveWindowPos", &clsOptions::m_bGeneralSaveWindowPos},
-};
-
 struct LoggedField {
   const wchar_t* name;
-  Field field;
+  SettingField field;
 };
 
 constexpr LoggedField LoggedFields[] = {
@@ -96,7 +51,6 @@ constexpr LoggedField LoggedFields[] = {
 };
 
 constexpr std::int32_t OnlyQuickAccessEntry = 1;  // what the Quick Access list is kept at
-constexpr std::int32_t DefaultDebugFlags = clsTrace::FlagAutoCommit | clsTrace::FlagEncrypt;
 
 constexpr const wchar_t* DebugWarning =
     L"Warning, debugging has been enabled.\r\n\r\nThe windows context menu may be slow to appear "
@@ -128,10 +82,11 @@ void LogSettings(const clsOptions& options) {
     std::visit([&](auto field) { Log(logged.name, options.*field); }, logged.field);
 }
 
-void WriteSettings(RegistryKey& key, const clsOptions& options, std::initializer_list<Use> uses) {
-  for (const Setting& setting : Settings) {
+void WriteSettings(RegistryKey& key, const clsOptions& options,
+                   std::initializer_list<Setting::Use> uses) {
+  for (const Setting& setting : Settings()) {
     if (std::ranges::find(uses, setting.use) == uses.end()) continue;
-    if (setting.use == Use::SaveOnly)
+    if (setting.use == Setting::Use::SaveOnly)
       WriteValue(key, setting.value, OnlyQuickAccessEntry);
     else
       std::visit([&](auto field) { WriteValue(key, setting.value, options.*field); },
@@ -161,8 +116,8 @@ void clsOptions::Reg_Load(const SettingsServices& services, const std::wstring& 
   m_lDebugFlags = DefaultDebugFlags;
   std::unique_ptr<RegistryKey> open;
   if (services.registry.OpenToRead(Hive::CurrentUser, key, open) == 0) {
-    for (const Setting& setting : Settings) {
-      if (setting.use == Use::SaveOnly) continue;
+    for (const Setting& setting : Settings()) {
+      if (setting.use == Setting::Use::SaveOnly) continue;
       std::visit([&](auto field) { ReadValue(*open, setting.value, this->*field); }, setting.field);
     }
   }
@@ -176,7 +131,7 @@ std::vector<std::wstring> clsOptions::UnreadableValues(Registry& registry,
   std::unique_ptr<RegistryKey> open;
   if (registry.OpenToRead(Hive::CurrentUser, key, open) != 0) return names;
   clsOptions scratch;
-  for (const Setting& setting : Settings) {
+  for (const Setting& setting : Settings()) {
     const auto read = [&](auto field) { return ReadValue(*open, setting.value, scratch.*field); };
     const std::int32_t error = std::visit(read, setting.field);
     if (error != 0 && error != RegistryKey::NotFound) names.push_back(setting.value);
@@ -189,8 +144,9 @@ std::wstring clsOptions::Reg_Save(const SettingsServices& services, std::wstring
   if (key.empty()) key = m_szPath;
   std::unique_ptr<RegistryKey> open;
   if (services.registry.OpenToWrite(Hive::CurrentUser, key, open) == 0) {
-    WriteSettings(*open, *this, {Use::Debug});
-    if (!debugSettingsOnly) WriteSettings(*open, *this, {Use::LoadAndSave, Use::SaveOnly});
+    WriteSettings(*open, *this, {Setting::Use::Debug});
+    if (!debugSettingsOnly)
+      WriteSettings(*open, *this, {Setting::Use::LoadAndSave, Setting::Use::SaveOnly});
   }
   if (debugSettingsOnly) {
     if (const ThreadState* thread = ThreadState::Current()) thread->debug->Renew();

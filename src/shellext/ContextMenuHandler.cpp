@@ -5,6 +5,7 @@
 
 #include "commands/HostWindow.h"
 #include "customactions/clsCustomActions.h"
+#include "menudata/SettingsTable.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SystemInfo.h"
 #include "shellext/BuiltInMenu.h"
@@ -17,7 +18,6 @@
 namespace orvane {
 namespace {
 
-constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
 constexpr const wchar_t* HistoryKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
 constexpr const wchar_t* QuickAccessKey =
     L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";

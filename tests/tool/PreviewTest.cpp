@@ -119,12 +119,16 @@ TEST_F(Preview, ListsWhatLeftTheComponent) {
   EXPECT_TRUE(std::ranges::any_of(effects, [](const Json& effect) {
     return effect["call"] == "ShellExecuteEx" && effect["file"] == "C:\\Tools\\editor.exe";
   })) << effects;
-  const Answer corrupt =
-      Run({"preview", "--config", Data + "corrupt-truncated.cfg", "--format", "json"});
-  EXPECT_EQ(Json::parse(corrupt.output)["effects"][0],
-            Json::parse(R"({"call": "MessageBox", "title": "Orvane - Orvane Shell Extension",
-                            "text": "File is corrupt!", "icon": "stop", "buttons": "ok"})"));
   EXPECT_FALSE(std::filesystem::exists(m_driveC / "Work/t.log")) << "the drive was written to";
+}
+
+TEST_F(Preview, WritesWhatHappenedToAFileToo) {
+  std::filesystem::create_directories(m_scratch.Path() / "d/Tools");
+  const Answer answer = Show({"--invoke", "Orvane/Tools/Editor", "--effects", Scratch("effects"),
+                              "--drive", "d=" + Scratch("d")});
+  EXPECT_EQ(answer.errors, TextOf(m_scratch.Path() / "effects"));
+  EXPECT_NE(answer.errors.find("{\"call\":\"ShellExecuteEx\","), std::string::npos)
+      << answer.errors;
 }
 
 TEST_F(Preview, PlaysAnActionIntoTheInvokingWindowOrItsParents) {
@@ -152,6 +156,7 @@ TEST_F(Preview, EndsWithOneLineAndStatus2) {
   ExpectRefusal({"preview", "--config", "/none"}, "/none");
   ExpectRefusal({"preview", "--config", Utf8(m_driveC)}, "cannot be read");
   ExpectRefusal({"preview", "--config", good, "--bogus"}, "--bogus");
+  ExpectRefusal({"preview", "--config", Data + "corrupt-truncated.cfg"}, "File is corrupt!");
   const struct {
     const char* option;
     std::string value;
@@ -166,6 +171,10 @@ TEST_F(Preview, EndsWithOneLineAndStatus2) {
 #endif
       {"--open", "Orvane/None", "Orvane/None"},
       {"--open", "Orvane/Work", "no submenu"},
+      {"--invoke", "Orvane/Tools", "opens a submenu"},
+      {"--invoke", "Orvane/Browse Work/(Empty)", "is disabled"},
+      {"--drive", "DD=x", "LETTER=DIRECTORY"},
+      {"--drive", "D=/none", "no directory"},
       {"--window", "OnlyAClass", "CLASS:CAPTION:EXE"},
   };
   for (const auto& row : rows)

@@ -12,6 +12,7 @@
 #include "Host.h"
 #include "support/Utf8.h"
 #include "win32/NativePath.h"
+#include "win32/SystemInfo.h"
 
 namespace orvane::tool {
 
@@ -27,7 +28,7 @@ HostOutput::HostOutput() {
 
 HostOutput::~HostOutput() = default;
 
-std::vector<std::string> Arguments(int, char**) {
+std::vector<std::string> ProgramArguments(int, char**) {
   int count = 0;
   const std::unique_ptr<LPWSTR, decltype(&LocalFree)> texts(
       CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
@@ -36,10 +37,21 @@ std::vector<std::string> Arguments(int, char**) {
   return arguments;
 }
 
+bool IsTerminal(Stream stream) {
+  DWORD mode = 0;
+  return GetConsoleMode(
+             GetStdHandle(stream == Stream::Output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE),
+             &mode) != 0;
+}
+
 std::filesystem::path HostPath(const std::string& path) {
   const auto wide = FromUtf8(path);
   if (!wide) throw std::runtime_error(path + ": is not UTF-8");
   return win32::NativePath(*wide);
+}
+
+std::unique_ptr<SystemInfo> HostSystem() {
+  return std::make_unique<win32::SystemInfo>(nullptr);
 }
 
 }  // namespace orvane::tool

@@ -9,6 +9,9 @@
 #include "HostFile.h"
 #include "memory/DataObject.h"
 #include "memory/RegFile.h"
+#include "menudata/Definition.h"
+#include "menudata/DefinitionFile.h"
+#include "menudata/clsOrvaneDataTools.h"
 #include "support/Text.h"
 #include "support/Utf8.h"
 
@@ -49,6 +52,29 @@ void Place(memory::Desktop& desktop, const std::string& path, const std::wstring
   desktop.files.AddFile(place, content);
 }
 
+/// A preview of what cannot be read would show an empty menu.
+void CheckDefinition(memory::Desktop& desktop, const std::string& path) {
+  const std::string content = ReadHostFile(path);
+  const auto bytes = std::as_bytes(std::span(content));
+  const CodePage codePage(desktop.system.AnsiCharacters());
+  const clsOptions options;
+  clsTrace trace(desktop.files, desktop.boxes, desktop.clock, desktop.locale, desktop.tcp,
+                 codePage);
+  const clsOrvaneDataTools tools(options, trace, desktop.shell);
+  DefinitionFile file({bytes.begin(), bytes.end()}, codePage);
+  try {
+    ReadDefinition(file, tools);
+  } catch (const Error& error) {
+    throw std::runtime_error(path + ": " + ToUtf8(error.Description()));
+  }
+}
+
+/// The drive's letter as a capital; none for what is no letter.
+wchar_t LetterOf(char c) {
+  if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return c >= 'A' && c <= 'Z' ? static_cast<wchar_t>(c) : L'\0';
+}
+
 /// The entry that a path of captions leads to from `menu` on; null when there is none. A caption
 /// may hold a "/" of its own.
 const MenuEntry* FindEntry(const memory::Menus& menus, MenuHandle menu, std::wstring_view path) {
@@ -66,13 +92,8 @@ const MenuEntry* FindEntry(const memory::Menus& menus, MenuHandle menu, std::wst
 }  // namespace
 
 PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(options) {
-  if (!options.driveC.empty()) {
-    const std::filesystem::path directory = HostPath(options.driveC);
-    if (!std::filesystem::is_directory(directory))
-      throw std::runtime_error(options.driveC + ": is no directory");
-    desktop.files.Mount(L"C:", directory);
-    desktop.files.AddFolder(desktop.system.programFolder);  // where logs go
-  }
+  MountDrives();
+  CheckDefinition(desktop, options.config);
   if (!options.registry.empty()) Import(options.registry, desktop.registry);
   Place(desktop, options.config, L"ShellConfigFile", L"Default.cfg");
   if (!options.actions.empty())
@@ -81,6 +102,25 @@ PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(option
   if (options.ctrl) desktop.keyboard.down.insert(CtrlKey);
   if (options.shift) desktop.keyboard.down.insert(ShiftKey);
   AddWindows();
+}
+
+void PreviewSession::Mount(const std::wstring& drive, const std::string& directory) {
+  const std::filesystem::path path = HostPath(directory);
+  if (!std::filesystem::is_directory(path))
+    throw std::runtime_error(directory + ": is no directory");
+  desktop.files.Mount(drive, path);
+}
+
+void PreviewSession::MountDrives() {
+  if (!m_options.driveC.empty()) Mount(L"C:", m_options.driveC);
+  for (const std::string& drive : m_options.drives) {
+    const std::size_t equals = drive.find('=');
+    const bool isLetter = !drive.empty() && LetterOf(drive.front()) != L'\0';
+    if (!isLetter || (equals != 1 && !(equals == 2 && drive[1] == ':')))
+      throw std::runtime_error("--drive \"" + drive + "\" is not LETTER=DIRECTORY");
+    Mount({LetterOf(drive.front()), L':'}, drive.substr(equals + 1));
+  }
+  desktop.files.AddFolder(desktop.system.programFolder);  // where logs go
 }
 
 // The windows stand child first on the command line, and a child needs its parent. Without any, the
@@ -158,6 +198,10 @@ void PreviewSession::Invoke() {
     request.verb = Wide(*m_options.verb);
   } else {
     const MenuEntry& entry = Find(m_options.invoke);
+    if (entry.submenu != MenuHandle::None || entry.state != MenuEntry::State::Enabled)
+      throw std::runtime_error(
+          "the entry \"" + m_options.invoke + "\" cannot be chosen: it " +
+          (entry.submenu != MenuHandle::None ? "opens a submenu" : "is disabled"));
     request.offset = static_cast<std::int32_t>(entry.id) - m_options.idFirst;
   }
   m_handler->IContextMenu_InvokeCommand(request);

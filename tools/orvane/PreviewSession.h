@@ -16,6 +16,7 @@ struct PreviewOptions {
   std::string config;
   std::string registry;
   std::string driveC;
+  std::vector<std::string> drives;  // "D=directory"
   std::string actions;
   std::string folder;
   std::vector<std::string> select;
@@ -51,6 +52,8 @@ class PreviewSession {
   MenuHandle menu = MenuHandle::None;
 
  private:
+  void Mount(const std::wstring& drive, const std::string& directory);
+  void MountDrives();
   void AddWindows();
   void AddWindow(std::wstring className, std::wstring caption, std::wstring executable);
   void OpenSubmenu(const std::string& path);

@@ -16,8 +16,10 @@ std::vector<std::string> NamesOf(const CLI::App& app) {
   return names;
 }
 
-/// How many characters must be added, removed or changed to get from one word to the other.
+/// How many characters must be added, removed or changed to get from one word to the other; 0 for
+/// its beginning.
 std::size_t Distance(const std::string& from, const std::string& to) {
+  if (to.starts_with(from)) return 0;
   std::vector<std::size_t> row(to.size() + 1);
   for (std::size_t i = 0; i < row.size(); ++i) row[i] = i;
   for (std::size_t i = 0; i < from.size(); ++i) {

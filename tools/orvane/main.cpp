@@ -5,10 +5,13 @@
 #include <algorithm>
 #include <iostream>
 
+#include "CompletionCommand.h"
 #include "DoctorCommand.h"
 #include "Host.h"
+#include "LogCommand.h"
 #include "MenuCommand.h"
 #include "PreviewCommand.h"
+#include "SettingsCommand.h"
 #include "Subcommands.h"
 
 namespace orvane::tool {
@@ -20,6 +23,9 @@ void AddSubcommands(CLI::App& app, int& exitCode) {
   AddMenuCommand(app, exitCode);
   AddPreviewCommand(app);
   AddDoctorCommand(app, exitCode);
+  AddSettingsCommand(app);
+  AddLogCommand(app);
+  AddCompletionCommand(app);
 }
 
 int Run(std::vector<std::string> arguments) {
@@ -46,7 +52,7 @@ int Run(std::vector<std::string> arguments) {
 int main(int argc, char** argv) {
   const orvane::tool::HostOutput output;
   try {
-    return orvane::tool::Run(orvane::tool::Arguments(argc, argv));
+    return orvane::tool::Run(orvane::tool::ProgramArguments(argc, argv));
   } catch (const std::exception& error) {
     std::cerr << "orvane: " << error.what() << '\n';
     return 2;
