@@ -136,7 +136,7 @@ TEST(Typing, IsOneStepAWordAndEndsWithASave) {
 
 TEST(ClipboardText, GoesThroughAnotherProgramAndBack) {
   Desk desk;
-  MenuItem& popup = desk.Add(Record(Data::TypePopupMenu, L"p \"\x416\x1F600\""));
+  MenuItem& popup = desk.Add(Record(Data::TypePopupMenu, L"p \"\u0416\U0001F600\""));
   desk.Add(Record(Data::TypeFolder, L"a&b", L"C:\\Work, more"), &popup);
   const std::string text = CopyText(desk.Top(), {&popup});
   Paste(desk.Edits(), text, PlaceFor(desk.Top(), nullptr));
