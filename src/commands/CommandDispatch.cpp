@@ -137,7 +137,7 @@ bool IsOpen(const CommandContext& context, const InvokeRequest& request) {
 
 /// The menu's item of that identifier, or none.
 Command Find(const CommandContext& context, std::int32_t id) {
-  const Command command = context.commands.Find(id);
+  Command command = context.commands.Find(id);
   if (!command) Log(L"Entry not found!");
   return command;
 }

@@ -195,7 +195,7 @@ bool CanMoveTo(const MenuItem& top, const Items& items, const Place& to) {
 
 Items MoveTo(History& history, const MenuItem& top, const Items& items, Place to) {
   if (!CanMoveTo(top, items, to)) return {};
-  const Items moving = Movable(top, items);
+  Items moving = Movable(top, items);
   const MenuItem* anchor = AnchorOf(to, moving);
   history.Do(L"Move", [&](const DoEdit& perform) {
     for (MenuItem* item : moving) MoveBefore(*to.parent, anchor, *item, perform);

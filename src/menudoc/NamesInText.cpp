@@ -32,7 +32,7 @@ std::wstring PathOfFolder(Shell& shell, const SpecialFolder& folder) {
   if (folder.number != SpecialFolder::NoNumber)
     return PathOf(shell, shell.SpecialFolder(WindowHandle::None, folder.number));
   // The user may have moved it, which only its own name tells.
-  const std::wstring moved =
+  std::wstring moved =
       PathOf(shell, shell.Parse(WindowHandle::None, L"shell:" + std::wstring(folder.below)));
   if (!moved.empty()) return moved;
   const std::wstring profile =

@@ -181,7 +181,7 @@ class Parser {
     for (const auto& [key, value] : json.items()) {
       if (key == "items" || (place.empty() ? IsDocumentKey(key) : key == "type")) continue;
       if (const ItemField* field = FindField(type, std::string_view(key)))
-        m_fields.Read(value, *field, data, place + "/" + key);
+        m_fields.Read(value, *field, data, std::string(place).append("/").append(key));
       else if (type != UnknownType)
         Report(MemberPlace(place, key), "is not known for this type of item", KnownFields(type));
     }

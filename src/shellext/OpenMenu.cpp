@@ -82,7 +82,7 @@ BitmapHandle OpenMenu::OwnerDrawMenu_HasBitmap(std::int32_t lId) {
 
 Command OpenMenu::Find(std::int32_t lId) const {
   Log(L"lID=", lId);
-  const Command command = m_state.commands.Find(lId);
+  Command command = m_state.commands.Find(lId);
   if (!command) Log(L"Entry not found!");
   return command;
 }

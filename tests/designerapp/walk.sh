@@ -12,6 +12,8 @@ settings='HKCU\Software\Tarnwick\Orvane'
 host=
 leave() {
   if [ -n "$host" ]; then kill "$host" 2>/dev/null || true; fi
+  # Whatever came of it: a designer that stays would hold this script's output open.
+  timeout 20 wine taskkill /f /im designer.exe >/dev/null 2>&1 || true
   wine reg delete "$settings" /f /v ShellConfigFile >/dev/null 2>&1 || true
 }
 trap leave EXIT

@@ -13,7 +13,7 @@ struct CloseConverter {
 using Converter = std::unique_ptr<void, CloseConverter>;
 
 Converter OpenConverter(int number) {
-  const iconv_t converter = iconv_open("UTF-32LE", ("CP" + std::to_string(number)).c_str());
+  iconv_t converter = iconv_open("UTF-32LE", ("CP" + std::to_string(number)).c_str());
   if (converter == iconv_t(-1)) return nullptr;
   return Converter(converter);
 }

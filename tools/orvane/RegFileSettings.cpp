@@ -46,9 +46,10 @@ RegFileSettings::RegFileSettings(std::string file) : m_file(std::move(file)) {
 }
 
 void RegFileSettings::Apply(std::span<const SettingChange> changes) {
-  for (const auto& [setting, value] : changes) {
-    std::erase_if(m_content, [&](const RegFileChange& old) { return IsChangeOf(old, *setting); });
-    if (value) m_content.push_back(ChangeTo(*setting, *value));
+  for (const SettingChange& change : changes) {
+    std::erase_if(m_content,
+                  [&](const RegFileChange& old) { return IsChangeOf(old, *change.setting); });
+    if (change.value) m_content.push_back(ChangeTo(*change.setting, *change.value));
   }
   WriteHostFile(m_file, memory::FormatRegFile(m_content));
 }

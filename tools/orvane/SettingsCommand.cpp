@@ -40,6 +40,7 @@ const Setting& Find(const std::string& name) {
 /// The named ones, or all.
 std::vector<const Setting*> Chosen(const std::vector<std::string>& names) {
   std::vector<const Setting*> chosen;
+  chosen.reserve(names.size());
   for (const std::string& name : names) chosen.push_back(&Find(name));
   if (names.empty())
     for (const Setting& setting : Settings()) chosen.push_back(&setting);
