@@ -71,7 +71,7 @@ orvane_headers(json nlohmann)
 orvane_headers(cli CLI)
 
 # orvane_small(TARGET): in a Windows program this one is built for size rather than speed, since it runs
-# when an entry was chosen and not while a menu waits to appear.
+# when an entry was chosen and not while a menu waits to appear, or is little more than Windows' calls.
 if(WIN32)
   add_library(orvane_size INTERFACE)
   target_compile_options(orvane_size INTERFACE -Os)
