@@ -40,8 +40,10 @@ ActionStep StepOf(std::wstring_view token, std::wstring& argument) {
 ScriptResult ParseActionScript(std::wstring_view script, ActionSteps& steps) {
   constexpr auto None = std::wstring_view::npos;
   steps.clear();
-  const auto addLiteral = [&](std::wstring_view keys) {
+  ScriptResult result;
+  const auto addLiteral = [&](std::wstring_view keys, std::size_t place) {
     steps.emplace_back(LiteralStep{std::wstring(keys)});
+    result.places.push_back(place);
   };
   std::wstring argument;
   std::size_t close = 0;  // the last "]" looked up; still the next one while it lies ahead
@@ -49,31 +51,35 @@ ScriptResult ParseActionScript(std::wstring_view script, ActionSteps& steps) {
   do {
     const std::size_t open = FindOpening(script, position);
     if (open == None) {
-      addLiteral(script.substr(position));
-      return {true, {}};
+      addLiteral(script.substr(position), position);
+      result.whole = true;
+      return result;
     }
-    if (open > position) addLiteral(script.substr(position, open - position));
+    if (open > position) addLiteral(script.substr(position, open - position), position);
 
     const std::size_t start = open + Opening.size();
     if (close < start) close = script.find(L']', start);
     if (close == None) {
-      addLiteral({});
-      return {};
+      addLiteral({}, open);
+      return result;
     }
     const std::size_t nested = script.substr(start, close - start).find(L'[');
     if (nested != None) {
-      addLiteral(script.substr(open, Opening.size() + nested));
+      addLiteral(script.substr(open, Opening.size() + nested), open);
       position = start + nested;
       continue;
     }
+    result.places.push_back(open);
     try {
       steps.push_back(StepOf(script.substr(open, close + 1 - open), argument));
     } catch (const Error&) {
-      return {false, argument};
+      result.badNumber = argument;
+      return result;
     }
     position = close + 1;
   } while (position < script.size());
-  return {true, {}};
+  result.whole = true;
+  return result;
 }
 
 }  // namespace orvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -42,6 +43,7 @@ using ActionSteps = std::vector<ActionStep>;
 struct ScriptResult {
   bool whole = false;      // the script was parsed to its end
   std::wstring badNumber;  // the pause argument that is no number, when that ended the parsing
+  std::vector<std::size_t> places;  // where each step begins, and last what ended the parsing
 };
 
 /// Breaks a script into its steps, in its order. Clears `steps` first. After a failure they hold

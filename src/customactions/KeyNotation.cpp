@@ -1,5 +1,6 @@
 #include "customactions/KeyNotation.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -72,12 +73,25 @@ class NotationParser {
   explicit NotationParser(std::wstring_view text) : m_text(text) {}
 
   std::vector<KeyEvent> Parse() {
-    while (m_position < m_text.size()) ParseNext();
+    while (m_position < m_text.size()) {
+      m_start = m_position;
+      ParseNext();
+    }
+    if (m_pending == 0 && !m_groups.empty()) m_start = m_groups.back().place;
     if (m_pending || !m_groups.empty()) Fail(L"The text ends within a group or after a modifier");
     return std::move(m_events);
   }
 
+  // After a failure: what could not be parsed.
+  std::size_t Start() const { return m_start; }
+  std::size_t End() const { return std::max(m_position, m_start + 1); }
+
  private:
+  struct Group {
+    unsigned pressed;  // the modifiers to release at its end
+    std::size_t place;
+  };
+
   [[noreturn]] static void Fail(const wchar_t* why) { throw Error(Error::InvalidArgument, why); }
 
   void ParseNext() {
@@ -129,12 +143,12 @@ class NotationParser {
            (name.size() == 2 && (name[0] & ~0x3FF) == 0xD800 && (name[1] & ~0x3FF) == 0xDC00);
   }
 
-  void OpenGroup() { m_groups.push_back(HoldPending()); }
+  void OpenGroup() { m_groups.push_back({HoldPending(), m_start}); }
 
   void CloseGroup() {
     if (m_groups.empty()) Fail(L"A ) without (");
     if (m_pending) Fail(L"A modifier before )");
-    Release(m_groups.back());
+    Release(m_groups.back().pressed);
     m_groups.pop_back();
   }
 
@@ -204,16 +218,27 @@ class NotationParser {
 
   std::wstring_view m_text;
   std::size_t m_position = 0;
+  std::size_t m_start = 0;  // of what is being parsed
   std::vector<KeyEvent> m_events;
-  unsigned m_pending = 0;          // modifiers waiting for their key or group
-  unsigned m_held = 0;             // modifiers pressed at this place
-  std::vector<unsigned> m_groups;  // for each open group, the modifiers to release at its end
+  unsigned m_pending = 0;       // modifiers waiting for their key or group
+  unsigned m_held = 0;          // modifiers pressed at this place
+  std::vector<Group> m_groups;  // the open ones
 };
 
 }  // namespace
 
 std::vector<KeyEvent> ParseKeyNotation(std::wstring_view text) {
   return NotationParser(text).Parse();
+}
+
+std::optional<KeyFault> FindKeyFault(std::wstring_view text) {
+  NotationParser parser(text);
+  try {
+    parser.Parse();
+    return {};
+  } catch (const Error& error) {
+    return KeyFault{parser.Start(), parser.End() - parser.Start(), error.Description()};
+  }
 }
 
 bool SendKeys(Keyboard& keyboard, const std::wstring& text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,16 @@ constexpr std::size_t MaxKeyEvents = 100'000;
 /// The events that the text stands for, every pressed key released again. Error 5 or 13 for what is
 /// no proper notation, Error 6 beyond MaxKeyEvents.
 std::vector<KeyEvent> ParseKeyNotation(std::wstring_view text);
+
+/// What is no proper notation: where it stands, and why.
+struct KeyFault {
+  std::size_t place = 0;
+  std::size_t length = 0;
+  std::wstring text;
+};
+
+/// The first thing that ParseKeyNotation refuses the text for.
+std::optional<KeyFault> FindKeyFault(std::wstring_view text);
 
 /// Types the text into the window that has the keyboard: see Keyboard::Type. Errors as from
 /// ParseKeyNotation, nothing typed then.

@@ -1,5 +1,6 @@
 #include "customactions/WindowMatch.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "customactions/clsProcess.h"
@@ -14,11 +15,11 @@ constexpr std::size_t MaxChain = 256;
 
 bool Compare(const MatchText& pattern, const MatchText& value, std::int32_t mode) {
   switch (mode) {
-    case MatchMode::Exact:
+    case CustomAction::OptionMatchExact:
       return value.text == pattern.text;
-    case MatchMode::Partial:
+    case CustomAction::OptionMatchPartial:
       return value.lower.starts_with(pattern.lower);
-    case MatchMode::Anywhere:
+    case CustomAction::OptionMatchAnywhere:
       return pattern.lower.find(value.lower) != std::wstring::npos;
     default:
       return true;
@@ -35,6 +36,15 @@ bool MatchString(const MatchText& szSrc, const MatchText& szDest, std::int32_t l
   const bool result = Compare(szSrc, szDest, lMode);
   Log(L"MatchString=", result);
   return result;
+}
+
+bool Passes(const CustomAction& action, const Criterion& criterion, const MatchTarget& target) {
+  const MatchText pattern(action.*criterion.pattern);
+  const std::int32_t mode = action.*criterion.mode;
+  if (!criterion.value) return MatchString(pattern, target.exe, mode);
+  return std::ranges::any_of(target.chain, [&](const MatchTarget::Window& window) {
+    return MatchString(pattern, window.*criterion.value, mode);
+  });
 }
 
 MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "customactions/CustomAction.h"
 #include "platform/Windows.h"
 
 namespace orvane {
@@ -16,13 +17,6 @@ struct MatchText {
 
   std::wstring text;
   std::wstring lower;
-};
-
-struct MatchMode {
-  static constexpr std::int32_t Ignore = 0;
-  static constexpr std::int32_t Partial = 1;   // the value begins with the pattern, in any case
-  static constexpr std::int32_t Exact = 2;     // the value is the pattern
-  static constexpr std::int32_t Anywhere = 4;  // the value occurs in the pattern, in any case
 };
 
 /// Whether the value `szDest` satisfies the pattern `szSrc`; always in a mode that is none.
@@ -38,6 +32,31 @@ struct MatchTarget {
   std::vector<Window> chain;  // the window first, then its parent, and so on
   MatchText exe;              // full path; empty when it cannot be had
 };
+
+/// What an action asks of a window.
+struct Criterion {
+  const wchar_t* key;      // of the pattern in the file
+  const wchar_t* modeKey;  // of its mode
+  std::wstring CustomAction::*pattern;
+  std::int32_t CustomAction::*mode;
+  MatchText MatchTarget::Window::*value;  // null: the program
+};
+
+/// In the order in which they are tested.
+inline constexpr Criterion Criteria[] = {
+    {L"Exe", L"ExeMatch", &CustomAction::m_szExe, &CustomAction::m_lExeMatch, nullptr},
+    {L"Caption", L"CaptionMatch", &CustomAction::m_szCaption, &CustomAction::m_lCaptionMatch,
+     &MatchTarget::Window::caption},
+    {L"Class", L"ClassMatch", &CustomAction::m_szClass, &CustomAction::m_lClassMatch,
+     &MatchTarget::Window::className}};
+
+inline bool IsUsed(const CustomAction& action, const Criterion& criterion) {
+  return action.*criterion.mode > CustomAction::OptionMatchIgnore;
+}
+
+/// Whether a used criterion passes: the program is the window's own, not any that happens to run;
+/// of the windows one is enough.
+bool Passes(const CustomAction& action, const Criterion& criterion, const MatchTarget& target);
 
 MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd);
 

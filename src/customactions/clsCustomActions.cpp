@@ -77,22 +77,9 @@ bool clsCustomActions::Load(const std::wstring& szId, const std::wstring& szPath
 }
 
 bool clsCustomActions::Load(const std::wstring& szId, const ActionsFile& file) {
-  const auto text = [&](const wchar_t* key) { return file.GetProfileValue(szId, key, L""); };
-  const auto number = [&](const wchar_t* key, const wchar_t* fallback) {
-    return ParseNumber16(file.GetProfileValue(szId, key, fallback));
-  };
   m_szId = szId;
-  m_lType = number(L"Type", L"-1");
-  m_lOrder = number(L"Order", L"0");
-  m_szDescription = text(L"Description");
-  m_szExe = text(L"Exe");
-  m_lExeMatch = number(L"ExeMatch", L"0");
-  m_szClass = text(L"Class");
-  m_lClassMatch = number(L"ClassMatch", L"0");
-  m_szCaption = text(L"Caption");
-  m_lCaptionMatch = number(L"CaptionMatch", L"0");
-  m_szActions = text(L"Actions");
-  m_lOptions = number(L"Options", L"0");
+  static_cast<CustomAction&>(*this) = file.Action(
+      szId, [](const wchar_t*, const std::wstring& text) { return ParseNumber16(text); });
   return !m_szDescription.empty();
 }
 
@@ -158,31 +145,13 @@ bool clsCustomActions::MatchWindow_(const std::wstring& szId, const ActionsFile&
   TraceScope scope(L"MatchWindow_");
   Load(szId, file);
   Log(L"m_szId=", m_szId, L"  m_szDescription=", m_szDescription);
-  const bool used = m_lExeMatch > 0 || m_lCaptionMatch > 0 || m_lClassMatch > 0;
-  const bool matched = used && (m_lExeMatch <= 0 || MatchExe(target)) &&
-                       (m_lCaptionMatch <= 0 || MatchCaption(target)) &&
-                       (m_lClassMatch <= 0 || MatchClass(target));
+  const auto isUsed = [&](const Criterion& criterion) { return IsUsed(*this, criterion); };
+  const bool matched = std::ranges::any_of(Criteria, isUsed) &&
+                       std::ranges::all_of(Criteria, [&](const Criterion& criterion) {
+                         return !isUsed(criterion) || Passes(*this, criterion, target);
+                       });
   Log(L"MatchWindow_=", matched);
   return matched;
-}
-
-/// The pattern is held against the window's own program, not against any that happens to run.
-bool clsCustomActions::MatchExe(const MatchTarget& target) const {
-  return MatchString(MatchText(m_szExe), target.exe, m_lExeMatch);
-}
-
-bool clsCustomActions::MatchCaption(const MatchTarget& target) const {
-  const MatchText pattern(m_szCaption);
-  return std::any_of(target.chain.begin(), target.chain.end(), [&](const auto& window) {
-    return MatchString(pattern, window.caption, m_lCaptionMatch);
-  });
-}
-
-bool clsCustomActions::MatchClass(const MatchTarget& target) const {
-  const MatchText pattern(m_szClass);
-  return std::any_of(target.chain.begin(), target.chain.end(), [&](const auto& window) {
-    return MatchString(pattern, window.className, m_lClassMatch);
-  });
 }
 
 }  // namespace orvane

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "customactions/ActionScript.h"
+#include "customactions/CustomAction.h"
 #include "platform/Handles.h"
 
 namespace orvane {
@@ -36,37 +37,14 @@ struct ActionServices {
   const CodePage& codePage;
 };
 
-/// One custom action (the public fields), and the operations on the file of actions: an INI file
-/// with a section for each action. Nothing of the file is kept between calls; an empty szPath means
+/// One custom action (the record), and the operations on the file of actions: an INI file with a
+/// section for each action. Nothing of the file is kept between calls; an empty szPath means
 /// `Path`. A number in the file that is none, or out of range, is an Error 13 or 6 to the caller.
-class clsCustomActions {
+class clsCustomActions : public CustomAction {
  public:
-  static constexpr std::int32_t TypeAny = -1;
-  static constexpr std::int32_t TypeWindow = 1;   // played into the window that asked for the menu
-  static constexpr std::int32_t TypeGeneral = 2;  // tied to no window
-
-  static constexpr std::int32_t OptionEnabled = 1;  // bit of m_lOptions
-
-  static constexpr std::int32_t OptionMatchIgnore = 0;
-  static constexpr std::int32_t OptionMatchPartial = 1;
-  static constexpr std::int32_t OptionMatchExact = 2;
-  static constexpr std::int32_t OptionMatchAnywhere = 4;
-
   explicit clsCustomActions(const ActionServices& services) : m_services(services) {}
 
   std::wstring Path;
-  std::wstring m_szId;  // the section's name
-  std::int32_t m_lType = TypeAny;
-  std::int32_t m_lOrder = 0;
-  std::wstring m_szDescription;
-  std::wstring m_szExe;
-  std::int32_t m_lExeMatch = OptionMatchIgnore;
-  std::wstring m_szClass;
-  std::int32_t m_lClassMatch = OptionMatchIgnore;
-  std::wstring m_szCaption;
-  std::int32_t m_lCaptionMatch = OptionMatchIgnore;
-  std::wstring m_szActions;  // the script
-  std::int32_t m_lOptions = 0;
 
   /// IDs of the actions of a type (TypeAny: all), ascending by Order, those of one Order as they
   /// stand in the file. The result is their number.
@@ -85,8 +63,6 @@ class clsCustomActions {
 
   /// Gives the actions in slots 1, 2, ... those numbers as their Order; slot 0 is not used.
   void Resequence(const std::vector<std::wstring>& szIds, const std::wstring& szPath);
-
-  bool IsOptionEnabled() const { return (m_lOptions & OptionEnabled) > 0; }
 
   /// `hWnd` when an enabled window action matches it, which this object then holds; else None.
   WindowHandle MatchWindow(WindowHandle hWnd, const std::wstring& szPath);
@@ -121,9 +97,6 @@ class clsCustomActions {
              const std::wstring& szPath);
 
   bool MatchWindow_(const std::wstring& szId, const ActionsFile& file, const MatchTarget& target);
-  bool MatchExe(const MatchTarget& target) const;
-  bool MatchCaption(const MatchTarget& target) const;
-  bool MatchClass(const MatchTarget& target) const;
 
   std::wstring StepText(const ActionStep& step, const std::wstring& szItem,
                         const std::wstring& szSelection, const LocalTime& now);

@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "customactions/ActionScript.h"
-#include "customactions/KeyNotation.h"
+#include "customactions/CheckAction.h"
 #include "menudoc/SpecialFolders.h"
 #include "support/FullPath.h"
 #include "support/Text.h"
@@ -159,29 +159,8 @@ void CheckItem::CheckTemplate(std::wstring_view text) {
 }
 
 void CheckItem::CheckScript(std::wstring_view text) {
-  constexpr std::string_view Field = "actions";
-  if (text.empty()) return Warn(Field, "plays nothing", "Give the item a script.");
-  ActionSteps steps;
-  const ScriptResult result = ParseActionScript(text, steps);
-  if (!result.badNumber.empty())
-    return Warn(Field, "is not played: " + Quoted(result.badNumber) + " is no pause",
-                "Use a number of milliseconds.");
-  if (!result.whole) return Warn(Field, "is not played: a token has no ]", "Close the token.");
-  for (const ActionStep& step : steps) {
-    const auto* keys = std::get_if<LiteralStep>(&step);
-    if (!keys) continue;
-    const std::wstring& literal = keys->keys;
-    if (LowerCase(literal).starts_with(L"[orv_"))
-      Warn(Field, Quoted(literal) + " is no token and is typed as it stands",
-           "Use [orv_item], [orv_date], [orv_pause] or [orv_selection], in small letters.");
-    try {
-      ParseKeyNotation(literal);
-    } catch (const Error& error) {
-      Warn(Field,
-           "has keys that are not played, " + Quoted(literal) + ": " + ToUtf8(error.Description()),
-           "Put a character that is meant as such in braces, such as {+} or {(}.");
-    }
-  }
+  for (const ActionFinding& finding : orvane::CheckScript(text))
+    Warn("actions", ToUtf8(finding.text), ToUtf8(finding.remedy));
 }
 
 void CheckItem::CheckFolder(const ItemField& field, std::wstring_view text) {

@@ -228,7 +228,7 @@ IniText::IniText(std::span<const std::byte> bytes, const CodePage& codePage) {
       std::wstring name = encoding.Decode(line.name);
       const auto [section, isNew] = m_keys.try_emplace(LowerCase(name));
       keys = isNew ? &section->second : nullptr;
-      if (isNew) m_sections.push_back(std::move(name));
+      (isNew ? m_sections : m_repeated).push_back(std::move(name));
     } else if (line.kind == Line::Kind::Key && keys) {
       const auto value = std::u16string_view(text).substr(line.value, line.end - line.value);
       keys->try_emplace(LowerCase(encoding.Decode(line.name)), encoding.Decode(BareValue(value)));

@@ -23,6 +23,9 @@ class IniText {
   /// The names in the order of the file, each once.
   const std::vector<std::wstring>& Sections() const { return m_sections; }
 
+  /// The names of the sections that an earlier one of the name hides.
+  const std::vector<std::wstring>& Repeated() const { return m_repeated; }
+
   /// Null when the section or the key is missing.
   const std::wstring* Value(std::wstring_view section, std::wstring_view key) const;
 
@@ -30,6 +33,7 @@ class IniText {
   using Keys = std::map<std::wstring, std::wstring>;
 
   std::vector<std::wstring> m_sections;
+  std::vector<std::wstring> m_repeated;
   std::map<std::wstring, Keys> m_keys;  // names in lower case
 };
 
