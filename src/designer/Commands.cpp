@@ -209,6 +209,28 @@ Items Move(History& history, const MenuItem& top, const Items& items, Direction 
   return MoveTo(history, top, moving, Target(moving, direction));
 }
 
+bool IsShortcut(const std::wstring& path) {
+  return LowerCase(path).ends_with(L".lnk");
+}
+
+Items ReplaceShortcuts(History& history, const Items& items,
+                       const std::function<std::wstring(const std::wstring&)>& targetOf) {
+  Items changed;
+  history.Do(L"Replace Shortcut", [&](const DoEdit& perform) {
+    for (MenuItem* item : items) {
+      const std::wstring path(item->data.Location());
+      const bool isOne = item->data.IsTypeFile() && IsShortcut(path);
+      const std::wstring target = isOne ? targetOf(path) : std::wstring();
+      if (target.empty()) continue;
+      auto data = std::make_unique<clsOrvaneData>(item->data);
+      data->Location(target);
+      perform(ChangeItem{item, std::move(data)});
+      changed.push_back(item);
+    }
+  });
+  return changed;
+}
+
 std::string CopyText(const MenuItem& top, const Items& items) {
   MenuItem copied;
   for (const MenuItem* item : items)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,12 @@ bool CanMoveTo(const MenuItem& top, const Items& items, const Place& to);
 /// behind the popup that holds the items.
 enum class Direction { Up, Down, In, Out };
 Items Move(History& history, const MenuItem& top, const Items& items, Direction direction);
+
+/// Lets the file items that open a shortcut open what `targetOf` makes of its path, where that is
+/// not empty. The answer is those that were changed.
+Items ReplaceShortcuts(History& history, const Items& items,
+                       const std::function<std::wstring(const std::wstring&)>& targetOf);
+bool IsShortcut(const std::wstring& path);
 
 /// The items as the text of a menu document, and back. DocumentError for a text that is none. A
 /// pasted root stands for what it holds.

@@ -15,8 +15,6 @@ const wchar_t* FilterOf(Files kind) {
       return L"Menu definitions (*.cfg)\0*.cfg\0All files\0*.*\0";
     case Files::Documents:
       return L"Menu documents (*.json)\0*.json\0All files\0*.*\0";
-    case Files::Programs:
-      return L"Programs and shortcuts\0*.exe;*.lnk;*.url;*.bat;*.cmd\0All files\0*.*\0";
     default:
       return L"All files\0*.*\0";
   }

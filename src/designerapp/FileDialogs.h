@@ -7,7 +7,7 @@
 
 namespace orvane::designerapp {
 
-enum class Files { Any, Menus, Documents, Programs };
+enum class Files { Any, Menus, Documents };
 
 // The system's dialogs for files and folders. Empty when the user gives up.
 

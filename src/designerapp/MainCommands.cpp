@@ -6,7 +6,10 @@
 #include "designerapp/FileDialogs.h"
 #include "designerapp/FindDialog.h"
 #include "designerapp/ItemClipboard.h"
+#include "designerapp/ListsDialog.h"
 #include "designerapp/MainWindow.h"
+#include "designerapp/SettingsDialog.h"
+#include "designerapp/ShortcutTarget.h"
 #include "menudata/ShellPaths.h"
 #include "platform/Clipboard.h"
 #include "platform/SystemInfo.h"
@@ -23,11 +26,18 @@ void Enable(HMENU menu, UINT id, bool on) {
   EnableMenuItem(menu, id, MF_BYCOMMAND | (on ? MF_ENABLED : MF_GRAYED));
 }
 
+bool IsOpened(HWND owner, const std::wstring& file, const std::wstring& arguments) {
+  constexpr INT_PTR LastError = 32;
+  const HINSTANCE result =
+      ShellExecuteW(owner, L"open", file.c_str(), arguments.c_str(), nullptr, SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > LastError;
+}
+
 }  // namespace
 
 bool MainWindow::Command(int id) {
   return FileCommand(id) || EditCommand(id) || InsertCommand(id) || ViewCommand(id) ||
-         HelpCommand(id);
+         ToolsCommand(id) || HelpCommand(id);
 }
 
 bool MainWindow::FileCommand(int id) {
@@ -107,6 +117,10 @@ bool MainWindow::EditCommand(int id) {
     case ID_EDIT_OUT:
       Move(designer::Direction::Out);
       return true;
+    case ID_EDIT_TARGET:
+      after = ReplaceShortcuts(edits, m_tree.Selection(), TargetOfShortcut);
+      if (after.empty()) return Status(L"No selected item opens a shortcut to a file."), true;
+      break;
     case ID_EDIT_FIND:
     case ID_EDIT_FIND_NEXT:
       Find(id == ID_EDIT_FIND_NEXT);
@@ -158,6 +172,16 @@ bool MainWindow::ViewCommand(int id) {
   return true;
 }
 
+bool MainWindow::ToolsCommand(int id) {
+  if (id == ID_TOOLS_LISTS)
+    ListsDialog(m_program).Show(Handle());
+  else if (id != ID_TOOLS_SETTINGS)
+    return false;
+  else if (SettingsDialog(m_program).Ask(Handle()))
+    m_tree.ShowBackground();
+  return true;
+}
+
 bool MainWindow::HelpCommand(int id) {
   if (id == ID_HELP_GUIDE)
     Guide();
@@ -176,7 +200,7 @@ void MainWindow::UpdateMenu(HMENU menu) {
   Enable(menu, ID_EDIT_PASTE, IsClipboardFormatAvailable(CF_UNICODETEXT));
   for (const UINT id :
        {ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_DELETE, ID_EDIT_DUPLICATE, ID_EDIT_RENAME, ID_EDIT_MARK,
-        ID_EDIT_UP, ID_EDIT_DOWN, ID_EDIT_IN, ID_EDIT_OUT})
+        ID_EDIT_UP, ID_EDIT_DOWN, ID_EDIT_IN, ID_EDIT_OUT, ID_EDIT_TARGET})
     Enable(menu, id, selected);
   Enable(menu, ID_EDIT_FIND_NEXT, !m_searched.empty());
 }
@@ -260,15 +284,19 @@ void MainWindow::About() {
               L"Orvane Designer", MB_OK | MB_ICONINFORMATION);
 }
 
+/// A machine without a program for the guide's kind of file has the Notepad.
 void MainWindow::Guide() {
-  const std::wstring folder = m_program.platform.system.ProgramFolder();
-  for (const wchar_t* place : {L"\\designer.md", L"\\docs\\designer.md"}) {
-    const std::wstring path = folder + place;
-    if (!FileExists(m_program.platform.files, path)) continue;
-    ShellExecuteW(Handle(), L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    return;
+  for (const std::wstring& folder : {m_program.folder, m_program.platform.system.ProgramFolder()}) {
+    for (const wchar_t* place : {L"\\designer.md", L"\\docs\\designer.md"}) {
+      const std::wstring path = folder + place;
+      if (!FileExists(m_program.platform.files, path)) continue;
+      if (IsOpened(Handle(), path, {})) return;
+      const std::wstring editor = m_program.platform.system.SystemFolder() + L"\\notepad.exe";
+      if (IsOpened(Handle(), editor, L'"' + path + L'"')) return;
+    }
   }
-  throw Error(Error::InvalidArgument, L"The guide is not in " + folder + L'.');
+  throw Error(Error::InvalidArgument,
+              L"The guide, designer.md, is not in " + m_program.folder + L'.');
 }
 
 }  // namespace orvane::designerapp

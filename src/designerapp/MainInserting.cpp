@@ -4,8 +4,9 @@
 #include "designerapp/CommandIds.h"
 #include "designerapp/FileDialogs.h"
 #include "designerapp/MainWindow.h"
+#include "designerapp/ProgramDialog.h"
+#include "designerapp/ShortcutTarget.h"
 #include "menudata/ShellPaths.h"
-#include "platform/SystemInfo.h"
 
 // How items come into the menu of the main window: from its Insert menu, dropped on it, and dragged
 // from another place in it.
@@ -75,16 +76,11 @@ bool MainWindow::InsertCommand(int id) {
       return true;
     }
     case ID_INSERT_FILE:
-    case ID_INSERT_PROGRAM: {
-      const std::wstring start = id == ID_INSERT_FILE
-                                     ? L""
-                                     : m_program.platform.system.Environment(L"ProgramData") +
-                                           L"\\Microsoft\\Windows\\Start Menu\\Programs\\";
-      const std::wstring path =
-          AskFile(Handle(), id == ID_INSERT_FILE ? Files::Any : Files::Programs, start);
-      if (!path.empty()) Insert(RecordOf(path, m_program.platform));
+      InsertFile();
       return true;
-    }
+    case ID_INSERT_PROGRAM:
+      InsertProgram();
+      return true;
     case ID_INSERT_TASK: {
       Data data = Record(Data::TypeSelectionTask, L"New task");
       data.m_lSelection_Options = Data::SelectionOptions_ShowAlways | Data::SelectionOptions_QIS;
@@ -111,6 +107,16 @@ void MainWindow::Insert(clsOrvaneData data) {
   SetFocus(m_tree.Handle());
 }
 
+void MainWindow::InsertFile() {
+  const std::wstring path = AskFile(Handle(), Files::Any, {});
+  if (!path.empty()) Insert(RecordOf(path, m_program.platform));
+}
+
+void MainWindow::InsertProgram() {
+  const auto program = ProgramDialog(m_program).Ask(Handle());
+  if (program) Insert(Record(Data::TypeFile, program->name, program->path));
+}
+
 void MainWindow::InsertFolder(std::int32_t type, bool move) {
   const std::wstring path = AskFolder(Handle(), {});
   if (path.empty()) return;
@@ -120,13 +126,19 @@ void MainWindow::InsertFolder(std::int32_t type, bool move) {
   Insert(std::move(data));
 }
 
+/// With Ctrl a shortcut becomes what it points at; else it stays itself, and the Edit menu has the
+/// command for later.
 void MainWindow::DroppedFiles(WPARAM drop) {
+  const bool followsShortcuts = GetKeyState(VK_CONTROL) < 0;
   POINT at{};
   GetCursorPos(&at);
   designer::Document& document = m_program.document;
   std::vector<clsOrvaneData> records;
-  for (const std::wstring& path : PathsOf(drop))
-    records.push_back(RecordOf(path, m_program.platform));
+  for (const std::wstring& path : PathsOf(drop)) {
+    const bool follows = followsShortcuts && designer::IsShortcut(path);
+    const std::wstring target = follows ? TargetOfShortcut(path) : std::wstring();
+    records.push_back(RecordOf(target.empty() ? path : target, m_program.platform));
+  }
   const designer::Place place =
       m_tree.DropPlace(at).value_or(PlaceFor(document.Top(), m_tree.Current()));
   m_tree.Select(designer::Insert(document.Edits(), std::move(records), place));

@@ -47,6 +47,7 @@ class MainWindow : public Window, private designer::EditListener {
   bool EditCommand(int id);
   bool InsertCommand(int id);
   bool ViewCommand(int id);
+  bool ToolsCommand(int id);
   bool HelpCommand(int id);
 
   void ShowDocument();
@@ -62,8 +63,9 @@ class MainWindow : public Window, private designer::EditListener {
   void Find(bool again);
   void Move(designer::Direction direction);
   void Insert(clsOrvaneData data);
-  void InsertAt(std::int32_t type, const std::wstring& location);
   void InsertFolder(std::int32_t type, bool move);
+  void InsertFile();
+  void InsertProgram();
   void DroppedFiles(WPARAM drop);
   void BeginDrag(designer::MenuItem& item);
   void Drag();

@@ -1,5 +1,6 @@
 #include "designerapp/Program.h"
 
+#include "designer/MenuHome.h"
 #include "designer/Rehearsal.h"
 
 namespace orvane::designerapp {
@@ -12,11 +13,13 @@ constexpr std::int32_t RecentFiles = 9;
 Program::Program(HINSTANCE instance)
     : instance(instance),
       desktop(instance),
+      folder(desktop.system.ProgramFolder()),
       platform(desktop.Bundle()),
       globals(platform),
       document(
           designer::MenuFile(platform.files, globals.codePage, globals.g_Debug, globals.tools)),
       recent(platform.registry) {
+  desktop.system.ProgramFolder(designer::MenuHome(desktop.files, desktop.registry, folder));
   LoadSettings();
   recent.Path(L"Software\\Tarnwick\\Orvane\\Designer\\RecentFiles\\");
   recent.Load(RecentFiles);

@@ -4,12 +4,11 @@
 
 #include "designer/Document.h"
 #include "designer/Sample.h"
+#include "menudata/SettingsTable.h"
 #include "shellext/ModuleGlobals.h"
 #include "win32/Desktop.h"
 
 namespace orvane::designerapp {
-
-inline constexpr const wchar_t* SettingsKey = L"Software\\Tarnwick\\Orvane\\";
 
 /// What the designer's windows share: the desktop, the settings and the menu that is designed.
 struct Program {
@@ -20,6 +19,7 @@ struct Program {
 
   HINSTANCE instance;
   win32::Desktop desktop;
+  std::wstring folder;  // the designer's own; the platform's is that of the DLL it serves
   Platform platform;
   ModuleGlobals globals;
   designer::Document document;

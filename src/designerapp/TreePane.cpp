@@ -28,6 +28,14 @@ std::wstring CaptionOf(const clsOrvaneData& data) {
   return caption.empty() ? L"(no caption)" : caption;
 }
 
+COLORREF Tint() {
+  constexpr int Share = 16;
+  const COLORREF ground = GetSysColor(COLOR_WINDOW), touch = GetSysColor(COLOR_HIGHLIGHT);
+  const auto mixed = [](int a, int b) { return (a * (Share - 1) + b) / Share; };
+  return RGB(mixed(GetRValue(ground), GetRValue(touch)), mixed(GetGValue(ground), GetGValue(touch)),
+             mixed(GetBValue(ground), GetBValue(touch)));
+}
+
 }  // namespace
 
 void TreePane::Create(HWND parent) {
@@ -43,6 +51,18 @@ void TreePane::Resolution(UINT dpi) {
   TreeView_SetImageList(m_tree, pictures.List(), TVSIL_NORMAL);
   m_pictures.reset();
   m_pictures.emplace(std::move(pictures));
+  ShowBackground();
+}
+
+/// A touch of the system's own colour of what is selected, so that it suits every scheme of colours
+/// and the texts stay readable; nothing where the user needs contrast.
+void TreePane::ShowBackground() {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+  const bool isColoured = m_program.globals.g_Options.m_bGeneralShowBackground &&
+                          !(contrast.dwFlags & HCF_HIGHCONTRASTON);
+  TreeView_SetBkColor(m_tree, isColoured ? Tint() : CLR_NONE);
 }
 
 void TreePane::Clearing() {

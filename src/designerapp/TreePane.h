@@ -23,6 +23,9 @@ class TreePane : public designer::EditListener {
   /// Pictures and heights for a resolution.
   void Resolution(UINT dpi);
 
+  /// The background that the settings ask for.
+  void ShowBackground();
+
   /// Shows the whole menu anew.
   void ShowAll();
   void Select(designer::MenuItem* item);  // null: nothing

@@ -15,7 +15,7 @@ void Register(const wchar_t* className, WNDPROC procedure) {
   windowClass.lpfnWndProc = procedure;
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hIcon = LoadIconW(windowClass.hInstance, MAKEINTRESOURCEW(1));
+  windowClass.hIcon = LoadIconW(windowClass.hInstance, L"folder_open");
   windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
   windowClass.lpszClassName = className;
   RegisterClassExW(&windowClass);  // fails for one that is there already

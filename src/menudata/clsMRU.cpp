@@ -70,6 +70,20 @@ void clsMRU::Remember(const std::wstring& text) {
   if (m_unsaved) Save();
 }
 
+bool clsMRU::Forget(const std::vector<std::wstring>& texts) {
+  Load(MaxFileCount());
+  const auto last = m_entries.begin() + m_count;
+  const auto kept = std::stable_partition(m_entries.begin(), last, [&](const std::wstring& entry) {
+    return std::ranges::find(texts, entry) == texts.end();
+  });
+  std::fill(kept, last, std::wstring());
+  m_unsaved = true;
+  Save();  // the empty ones too
+  m_count = static_cast<std::int32_t>(kept - m_entries.begin());
+  if (!m_unsaved) Save();
+  return !m_unsaved;
+}
+
 bool clsMRU::Save() {
   std::unique_ptr<RegistryKey> key;
   if (m_registry.OpenToWrite(Hive::CurrentUser, m_path, key) == 0) {

@@ -10,6 +10,14 @@ namespace orvane {
 
 class MenuControl;
 
+// Where the menu keeps its lists. Entries of the first two are enciphered items, those of the third
+// are folders.
+inline constexpr const wchar_t* HistoryKey =
+    L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
+inline constexpr const wchar_t* QuickAccessKey =
+    L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
+inline constexpr const wchar_t* CopyToKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\";
+
 /// A recently-used list: texts, newest first, kept in one registry key under HKEY_CURRENT_USER.
 /// What the registry refuses leaves an empty list or entry; nobody is told.
 class clsMRU {
@@ -41,6 +49,9 @@ class clsMRU {
   /// The same to the list as the registry has it by now, where another window may have added too,
   /// and saves it.
   void Remember(const std::wstring& text);
+  /// Takes the texts out of the list as the registry has it by now, and saves it. Nothing of them
+  /// stays in the registry. False when it refuses.
+  bool Forget(const std::vector<std::wstring>& texts);
   bool Save();
   bool Load(std::int32_t maximum);
   void Reset();

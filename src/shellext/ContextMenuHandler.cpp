@@ -18,10 +18,6 @@
 namespace orvane {
 namespace {
 
-constexpr const wchar_t* HistoryKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
-constexpr const wchar_t* QuickAccessKey =
-    L"Software\\Tarnwick\\Orvane\\ContextMenu\\QuickAccessMRU\\";
-constexpr const wchar_t* CopyToKey = L"Software\\Tarnwick\\Orvane\\ContextMenu\\CopyTo\\";
 constexpr std::int32_t CopyToCount = 7;
 
 constexpr std::int16_t ReadTimer = 1;

@@ -48,6 +48,7 @@ SystemInfo::Version SystemInfo::OsVersion() {
 }
 
 std::wstring SystemInfo::ProgramFolder() {
+  if (!m_folder.empty()) return m_folder;
   const std::wstring file = GrowingText(
       [this](wchar_t* text, DWORD size) { return GetModuleFileNameW(m_module, text, size); });
   const std::size_t slash = file.rfind(L'\\');

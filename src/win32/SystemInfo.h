@@ -25,8 +25,12 @@ class SystemInfo : public orvane::SystemInfo {
   /// character, or the Western one: a process may have UTF-8 for its own.
   static UINT SingleBytePage(UINT processPage, UINT systemPage);
 
+  /// From now on this folder counts as the program's: of a program that serves a DLL elsewhere.
+  void ProgramFolder(std::wstring folder) { m_folder = std::move(folder); }
+
  private:
   HINSTANCE m_module;
+  std::wstring m_folder;  // empty: the module's
 };
 
 }  // namespace orvane::win32

@@ -1,17 +1,15 @@
-#include "designerapp/MainWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <commctrl.h>
-#include <ole2.h>
+#include <shlobj.h>
 
-#include <cstdlib>
+#include <cstring>
 #include <filesystem>
-#include <optional>
+#include <fstream>
 
 #include "designerapp/CommandIds.h"
-#include "designerapp/User.h"
-#include "host/LeakCount.h"
+#include "designerapp/Designer.h"
+#include "designerapp/OneInstance.h"
 
 // The designer as a user at the keyboard meets it.
 
@@ -19,87 +17,7 @@ namespace orvane::test {
 namespace {
 
 using designer::MenuItem;
-using designerapp::MainWindow;
-using designerapp::Program;
 namespace fs = std::filesystem;
-
-/// How often the endurance test opens and closes the designer.
-int Rounds() {
-  const char* asked = std::getenv("ORVANE_ROUNDS");
-  return asked ? std::atoi(asked) : 5;
-}
-
-MainWindow* s_window = nullptr;  // whose keys are to be translated
-
-std::wstring TreeBelow(const MenuItem& parent) {
-  std::wstring text;
-  for (const MenuItem::Owner& child : parent.children) {
-    text += text.empty() ? L"" : L" ";
-    text += child->data.IsTypeSeparator() ? L"-" : std::wstring(child->data.Caption());
-    if (!child->children.empty()) text += L"(" + TreeBelow(*child) + L")";
-  }
-  return text;
-}
-
-/// The designer with a file of its own.
-class Designer {
- public:
-  explicit Designer(const wchar_t* name = L"menu.cfg")
-      : file((fs::temp_directory_path() / name).wstring()), program(GetModuleHandleW(nullptr)) {
-    OleInitialize(nullptr);
-    const INITCOMMONCONTROLSEX controls{
-        sizeof controls,
-        ICC_TREEVIEW_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
-    InitCommonControlsEx(&controls);
-  }
-  ~Designer() {
-    Close();
-    OleUninitialize();
-  }
-
-  void Open() {
-    window.emplace(program);
-    s_window = &*window;
-    window->Open(file, SW_SHOWNORMAL);
-    SetForegroundWindow(window->Handle());
-    SetFocus(GetDlgItem(window->Handle(), IDC_TREE));
-    User::Wait();
-  }
-  void Close() {
-    s_window = nullptr;
-    window.reset();
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-    }
-  }
-
-  /// What a text of the designer is once it is `expected`, or still is after ten seconds: a slow
-  /// machine takes a while over keys.
-  template <class Text>
-  std::wstring Once(const std::wstring& expected, Text text) {
-    for (int i = 0; i < 200 && text() != expected; ++i) User::Wait(50);
-    return text();
-  }
-  void ExpectShown(const std::wstring& expected) {
-    EXPECT_EQ(Once(expected, [&] { return Shown(); }), expected);
-  }
-  void ExpectTitle(const std::wstring& expected) {
-    EXPECT_EQ(Once(expected, [&] { return Title(); }), expected);
-  }
-
-  /// The menu in the file.
-  std::wstring Saved() {
-    Program other(program.instance);
-    other.document.Open(file);
-    return TreeBelow(*other.document.Top().children.front());
-  }
-  std::wstring Shown() { return TreeBelow(*program.document.Top().children.front()); }
-  std::wstring Title() { return designerapp::TextOf(window->Handle()); }
-
-  std::wstring file;
-  Program program;
-  std::optional<MainWindow> window;
-};
 
 TEST(Keyboard, BuildsAMenuFromNothingToTheSavedFile) {
   Designer designer;
@@ -132,14 +50,14 @@ TEST(Keyboard, EditsPropertiesAndKeepsTheTextFieldsOwnKeys) {
   user.Type(L"%ia{F6}");
   user.Type(L"Type it{TAB}ab~");
   designer.ExpectShown(L"Type it");
-  MenuItem& action = *designer.program.document.Top().children[0]->children[0];
+  MenuItem& action = *designer.Root().children[0];
   const auto script = [&] { return std::wstring(action.data.m_szAction_Actions); };
   EXPECT_EQ(designer.Once(L"ab~", script), L"ab~");
   EXPECT_EQ(action.data.Caption(), L"Type it");
   user.Type(L"{DEL}^a{DEL}");  // in the field, not of the item
   EXPECT_EQ(designer.Once(L"", script), L"");
   designer.ExpectShown(L"Type it");
-  SetFocus(GetDlgItem(designer.window->Handle(), IDC_TREE));
+  SetFocus(designer.Tree());
   user.Type(L"^c^v^x");
   designer.ExpectShown(L"Type it");
   user.Type(L"^d^d{DEL}");
@@ -155,20 +73,9 @@ void CALLBACK CloseBox(HWND, UINT, UINT_PTR, DWORD) {
   PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 
-/// A menu with one entry.
-void Fill(Designer& designer) {
-  clsOrvaneData file;
-  file.m_lType = clsOrvaneData::TypeFile;
-  file.Location(L"C:\\windows\\system32\\notepad.exe");
-  file.Caption(L"Notes");
-  MenuItem& root = *designer.program.document.Top().children.front();
-  Insert(designer.program.document.Edits(), file, {&root, 0});
-  designer.program.document.Save(designer.file);
-}
-
 TEST(Preview, TellsWhatAnEntryDoes) {
   Designer designer;
-  Fill(designer);
+  designer.Fill();
   designer.Open();
   const UINT_PTR timer = SetTimer(nullptr, 0, 100, CloseBox);
   User().Type(L"{F5}{DOWN}{RIGHT}{ENTER}");
@@ -177,38 +84,104 @@ TEST(Preview, TellsWhatAnEntryDoes) {
   KillTimer(nullptr, timer);
 }
 
-TEST(OpeningEditingPreviewingAndClosing, LeavesNothingBehind) {
+TEST(Keyboard, ChangesASettingAndGivesItItsDefaultAgain) {
   Designer designer;
-  Fill(designer);
-  const auto round = [&] {
-    designer.Open();
-    User().Type(L"{DOWN}^d^z{F5}{DOWN}{RIGHT}{ESC}{ESC}{ESC}");
-    designer.Close();
+  designer.Fill();
+  designer.Open();
+  const auto longest = [&] {
+    return std::to_wstring(designer.program.globals.g_Options.m_lShellMaxMenuText);
   };
-  for (int i = 0; i < 3; ++i) round();  // what Windows loads once
-  const host::LeakCount before = host::LeakCount::Now();
-  for (int i = 0; i < Rounds(); ++i) round();
-  const host::LeakCount after = host::LeakCount::Now();
-  EXPECT_EQ(designer.Saved(), L"Notes");
-  EXPECT_LE(after.gdiObjects, before.gdiObjects + 2);
-  EXPECT_LE(after.userHandles, before.userHandles + 8);
+  User().Type(L"%ts%l20{ENTER}");
+  EXPECT_EQ(designer.Once(L"20", longest), L"20");
+  User().Type(L"%ts%l%d{ENTER}");
+  EXPECT_EQ(designer.Once(L"64", longest), L"64");
+}
+
+TEST(Keyboard, ClearsAListAndInsertsAProgramOfTheStartMenu) {
+  Designer designer;
+  designer.Fill();
+  clsMRU history(designer.program.platform.registry);
+  history.Path(HistoryKey);
+  history.MaxFileCount(5);
+  history.Remember(L"an entry");
+  wchar_t programs[MAX_PATH] = L"";
+  SHGetFolderPathW(nullptr, CSIDL_PROGRAMS, nullptr, 0, programs);
+  const fs::path shortcut = fs::path(programs) / L"Orvane test program.lnk";
+  fs::create_directories(programs);
+  std::ofstream(shortcut) << ' ';
+  designer.Open();
+  User().Type(L"%tl%c{ESC}");
+  const auto count = [&] { return history.Load(5), std::to_wstring(history.FileCount()); };
+  EXPECT_EQ(designer.Once(L"0", count), L"0");
+  User().Type(L"%irtest orvane{ENTER}");
+  designer.ExpectShown(L"Notes Orvane test program");
+  fs::remove(shortcut);
+}
+
+/// What the shell hands over for paths, each with a zero behind it.
+WPARAM Dropped(const std::wstring& paths) {
+  const std::size_t size = paths.size() * sizeof(wchar_t);
+  const HGLOBAL memory = GlobalAlloc(GHND, sizeof(DROPFILES) + size + sizeof(wchar_t));
+  auto* drop = static_cast<DROPFILES*>(GlobalLock(memory));
+  drop->pFiles = sizeof *drop;
+  drop->fWide = TRUE;
+  std::memcpy(drop + 1, paths.data(), size);
+  GlobalUnlock(memory);
+  return reinterpret_cast<WPARAM>(memory);
+}
+
+TEST(Mouse, DragsItemsAndDropsFilesIntoTheMenu) {
+  Designer designer;
+  designer.Fill();
+  designer.Open();
+  designer.Do(ID_INSERT_POPUP);
+  designer.ExpectShown(L"Notes New popup");
+  User::Drag(designer.Line(1), designer.Line(2));
+  designer.ExpectShown(L"New popup(Notes)");
+  User::Drag(designer.Line(2), designer.Line(2));  // into itself: nothing
+  const POINT root = designer.Line(0);
+  SetCursorPos(root.x, root.y);
+  using namespace std::literals;
+  SendMessageW(designer.window->Handle(), WM_DROPFILES,
+               Dropped(L"C:\\windows\\win.ini\0C:\\windows\0"s), 0);
+  designer.ExpectShown(L"New popup(Notes) win.ini windows");
+  EXPECT_TRUE(designer.Root().children[2]->data.IsTypeFolder());
+}
+
+TEST(SecondStart, HandsItsFileOverAndBothAreRecentFiles) {
+  Designer other(L"other.cfg");
+  other.Fill();
+  Designer designer;
+  designer.program.document.Save(designer.file);
+  designer.Open();
+  EXPECT_TRUE(designerapp::OneInstance::HandOver(other.file));
+  designer.ExpectTitle(L"other.cfg - Orvane Designer");
+  designer.ExpectShown(L"Notes");
+  COPYDATASTRUCT foreign{1, 2, const_cast<char*>("x")};
+  EXPECT_FALSE(
+      SendMessageW(designer.window->Handle(), WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&foreign)));
+  designer.Do(ID_FILE_RECENT + 1);
+  designer.ExpectTitle(L"menu.cfg - Orvane Designer");
+}
+
+TEST(WindowPlace, IsRememberedUnlessTheSettingsSayNo) {
+  Designer designer;
+  designer.Fill();
+  const auto openAndMove = [&](int x) {
+    designer.Open();
+    RECT rect{};
+    GetWindowRect(designer.window->Handle(), &rect);
+    SetWindowPos(designer.window->Handle(), nullptr, x, 60, 640, 420, SWP_NOZORDER);
+    designer.Close();
+    return rect.left;
+  };
+  openAndMove(50);
+  EXPECT_EQ(openAndMove(70), 50);
+  designer.program.globals.g_Options.m_bGeneralSaveWindowPos = false;
+  openAndMove(90);
+  designer.program.globals.g_Options.m_bGeneralSaveWindowPos = true;
+  EXPECT_EQ(openAndMove(50), 70);
 }
 
 }  // namespace
-
-void User::Wait(DWORD milliseconds) {
-  DWORD last = GetTickCount();
-  while (GetTickCount() - last < milliseconds) {
-    MSG message;
-    if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      Sleep(5);
-      continue;
-    }
-    if (message.message != WM_TIMER) last = GetTickCount();
-    if (s_window && s_window->Handle() && s_window->Translate(message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-}
-
 }  // namespace orvane::test

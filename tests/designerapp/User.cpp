@@ -1,5 +1,6 @@
 #include "designerapp/User.h"
 
+#include <iterator>
 #include <map>
 
 namespace orvane::test {
@@ -59,6 +60,22 @@ User& User::Type(const std::wstring& keys) {
   m_events.clear();
   Wait();
   return *this;
+}
+
+void User::Drag(POINT from, POINT to) {
+  const auto mouse = [](POINT at, DWORD button) {
+    INPUT event{};
+    event.type = INPUT_MOUSE;
+    event.mi.dx = MulDiv(at.x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    event.mi.dy = MulDiv(at.y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+    return event;
+  };
+  const POINT onTheWay{(from.x + to.x) / 2 + 20, (from.y + to.y) / 2};
+  INPUT events[] = {mouse(from, 0), mouse(from, MOUSEEVENTF_LEFTDOWN), mouse(onTheWay, 0),
+                    mouse(to, 0), mouse(to, MOUSEEVENTF_LEFTUP)};
+  SendInput(std::size(events), events, sizeof(INPUT));
+  Wait();
 }
 
 }  // namespace orvane::test

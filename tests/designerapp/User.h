@@ -12,6 +12,8 @@ class User {
  public:
   /// Types text and keys: "{F2}", "{DOWN}", "^" and "%" before a key hold Ctrl and Alt.
   User& Type(const std::wstring& keys);
+  /// Draws what is at one point of the screen to another with the mouse.
+  static void Drag(POINT from, POINT to);
   /// Lets the thread's windows do their work until nothing has happened for a while.
   static void Wait(DWORD milliseconds = 250);
 
