@@ -16,10 +16,9 @@ namespace {
 struct Tools {
   memory::Desktop desktop;
   CodePage codePage{desktop.system.AnsiCharacters()};
-  clsTrace debug{desktop.files,  desktop.boxes, desktop.clock,
-                 desktop.locale, desktop.tcp,   codePage};
+  Scrambler scrambler;
   clsOptions options;
-  clsOrvaneDataTools data{options, debug, desktop.shell};
+  clsOrvaneDataTools data{options, codePage, scrambler, desktop.shell};
 };
 
 std::vector<std::byte> DefinitionOf(Tools& tools, std::int64_t items) {
@@ -33,7 +32,7 @@ std::vector<std::byte> DefinitionOf(Tools& tools, std::int64_t items) {
     item.data.Location(L"C:\\Work\\Reports\\" + name + L".txt");
     definition.items.push_back(item);
   }
-  return WriteDefinition(definition, tools.codePage, tools.debug);
+  return WriteDefinition(definition, tools.codePage, tools.scrambler);
 }
 
 /// As menu construction does it: one node and one record an item.

@@ -26,9 +26,8 @@ void Define(memory::Desktop& desktop, std::int32_t count) {
   }
   definition.header.ItemCount = count + 1;
   const CodePage codePage(desktop.system.AnsiCharacters());
-  clsTrace debug(desktop.files, desktop.boxes, desktop.clock, desktop.locale, desktop.tcp,
-                 codePage);
-  const auto bytes = WriteDefinition(definition, codePage, debug);
+  Scrambler scrambler;
+  const auto bytes = WriteDefinition(definition, codePage, scrambler);
   desktop.files.AddFile(ConfigFile, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 
@@ -77,7 +76,7 @@ void BM_OpenDynamicFolder(benchmark::State& state) {
   folder.data.Location(L"C:\\Work");
   definition.header.ItemCount = 2;
   ModuleGlobals globals(desktop.Bundle());
-  const auto bytes = WriteDefinition(definition, globals.codePage, globals.g_Debug);
+  const auto bytes = WriteDefinition(definition, globals.codePage, globals.scrambler);
   desktop.files.AddFile(ConfigFile, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   for (auto _ : state) {
     state.PauseTiming();

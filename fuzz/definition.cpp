@@ -16,17 +16,16 @@ using namespace orvane;
 struct Reader {
   memory::Desktop desktop;
   CodePage codePage{desktop.system.AnsiCharacters()};
-  clsTrace debug{desktop.files,  desktop.boxes, desktop.clock,
-                 desktop.locale, desktop.tcp,   codePage};
+  Scrambler scrambler;
   clsOptions options;
-  clsOrvaneDataTools tools{options, debug, desktop.shell};
+  clsOrvaneDataTools tools{options, codePage, scrambler, desktop.shell};
 
   Definition Read(std::vector<std::byte> bytes) {
     DefinitionFile file(std::move(bytes), codePage);
     return ReadDefinition(file, tools);
   }
   std::vector<std::byte> Write(const Definition& definition) {
-    return WriteDefinition(definition, codePage, debug);
+    return WriteDefinition(definition, codePage, scrambler);
   }
 
   void Try(const std::vector<std::byte>& bytes) {
@@ -48,7 +47,7 @@ struct Reader {
                                  std::to_integer<std::size_t>(scrambled[place + 3]) << 8;
       place += 4;
       const std::size_t there = std::min(length, scrambled.size() - place);
-      debug.EncryptBytes(std::span(scrambled).subspan(place, there));
+      scrambler.Scramble(std::span(scrambled).subspan(place, there));
       place += there;
     }
     return scrambled;

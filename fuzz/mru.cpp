@@ -16,10 +16,9 @@ using namespace orvane;
 struct Reader {
   memory::Desktop desktop;
   CodePage codePage{desktop.system.AnsiCharacters()};
-  clsTrace debug{desktop.files,  desktop.boxes, desktop.clock,
-                 desktop.locale, desktop.tcp,   codePage};
+  Scrambler scrambler;
   clsOptions options;
-  clsOrvaneDataTools tools{options, debug, desktop.shell};
+  clsOrvaneDataTools tools{options, codePage, scrambler, desktop.shell};
 
   void Try(const std::wstring& entry) {
     clsOrvaneData item;
@@ -39,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static Reader reader;
   const std::wstring text = reader.codePage.Decode(std::as_bytes(std::span(data, size)));
   reader.Try(text);
-  reader.Try(reader.debug.EncryptStringAscii(text));
+  reader.Try(reader.scrambler.Scramble(text, reader.codePage));
   if (clsMRU::GetShortenedName(text).size() > text.size() + 3) std::abort();
   return 0;
 }

@@ -122,10 +122,9 @@ class Session {
       definition.items.push_back({m_input.Byte() % 12, Item()});
     definition.header.ItemCount = static_cast<std::int32_t>(definition.items.size());
     const CodePage codePage(m_desktop.system.AnsiCharacters());
-    clsTrace debug(m_desktop.files, m_desktop.boxes, m_desktop.clock, m_desktop.locale,
-                   m_desktop.tcp, codePage);
+    Scrambler scrambler;
     try {
-      const auto bytes = WriteDefinition(definition, codePage, debug);
+      const auto bytes = WriteDefinition(definition, codePage, scrambler);
       m_desktop.files.AddFile(L"C:\\Program Files\\Orvane\\Default.cfg",
                               {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     } catch (const Error&) {
@@ -178,12 +177,12 @@ class Session {
   void Verify(const HandlerState& state, MenuHandle menu) {
     for (const MenuEntry& entry : m_desktop.menus.Entries(menu)) {
       if (entry.submenu != MenuHandle::None) Verify(state, entry.submenu);
-      if (entry.separator || entry.submenu == state.m_hRootMenu) continue;
+      if (entry.separator || entry.submenu == state.rootMenu) continue;
       if (entry.caption.ends_with(L"able debugging")) continue;
       const auto id = static_cast<std::int32_t>(entry.id);
       if (id < state.ids.First() || (id >= m_bound && !m_unbounded)) std::abort();
       if (!state.commands.Find(id)) std::abort();
-      if (!m_seen.insert(id).second && id != state.m_lEmptyCmdId) std::abort();
+      if (!m_seen.insert(id).second && id != state.emptyId) std::abort();
     }
   }
 

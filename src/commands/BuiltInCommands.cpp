@@ -14,7 +14,7 @@ namespace orvane {
 namespace {
 
 bool IsListed(const CommandContext& context, const clsOrvaneData& item) {
-  const clsMRU& list = context.g_QuickAccessMRU;
+  const clsMRU& list = context.quickAccess;
   for (std::int32_t i = 1; i <= list.FileCount(); ++i) {
     clsOrvaneData listed;
     context.tools.BreakdownHistoryMRU(list.File(i), listed);
@@ -56,11 +56,11 @@ bool IsRunDialogThere(const Platform& platform, WindowHandle before) {
 
 void AddToQuickAccess(const CommandContext& context) {
   clsOrvaneData item;
-  const bool isFile = !context.CurrentFile.empty();
+  const bool isFile = !context.selection.file.empty();
   item.m_lType = isFile ? clsOrvaneData::TypeFile : clsOrvaneData::TypeFolder;
-  item.Location(isFile ? context.CurrentFile : context.CurrentFolder);
+  item.Location(isFile ? context.selection.file : context.selection.folder);
   item.Caption(GetDisplayName(context.platform.shell, item.Location()));
-  if (!IsListed(context, item)) Remember(context, context.g_QuickAccessMRU, item);
+  if (!IsListed(context, item)) Remember(context, context.quickAccess, item);
 }
 
 void StartDesigner(const CommandContext& context, WindowHandle window) {
@@ -84,7 +84,7 @@ void TypeIntoRunDialog(const CommandContext& context) {
   keyboard.Press(Keyboard::LetterR, true);
   keyboard.Press(Keyboard::LeftWindows, true);
   if (IsRunDialogThere(context.platform, before))
-    SendKeys(keyboard, InQuotesWhenBlank(context.m_szSelectedItem));
+    SendKeys(keyboard, InQuotesWhenBlank(context.selection.onlyItem));
   else
     Log(L"The Run dialog does not open");
 }
@@ -95,8 +95,8 @@ void OpenCommandPrompt(const CommandContext& context) {
   Launcher& launcher = context.platform.launcher;
   const std::wstring program = CommandInterpreter(context.platform.system);
   const std::wstring commandLine = InQuotesWhenBlank(program) + L" /k ";
-  if (launcher.Start(program, commandLine, context.CurrentFolder)) return;
-  if (!context.CurrentFolder.empty()) launcher.Start(program, commandLine, L"");
+  if (launcher.Start(program, commandLine, context.selection.folder)) return;
+  if (!context.selection.folder.empty()) launcher.Start(program, commandLine, L"");
 }
 
 }  // namespace orvane

@@ -51,7 +51,7 @@ void ResetList(clsMRU& list) {
 }
 
 void OpenFileItem(const Call& call, Data& item) {
-  Remember(call.context, call.context.g_HistoryMRU, item);
+  Remember(call.context, call.context.history, item);
   MakeOpener(call).OpenFile(item.m_szFile_Location, call.window);
 }
 
@@ -65,8 +65,8 @@ void CopyOrMove(const Call& call, bool copy, const std::wstring& destination) {
   const CommandContext& context = call.context;
   const Platform& platform = context.platform;
   CopyOrMoveSelection({platform.dialogs, platform.files, platform.shell, platform.boxes,
-                       context.g_CopyToMRU, context.g_Options.m_bGeneralShowBackground},
-                      platform.operations, call.window, context.m_pDataObject.get(), copy,
+                       context.copyTo, context.options.m_bGeneralShowBackground},
+                      platform.operations, call.window, context.selection.dataObject.get(), copy,
                       destination);
 }
 
@@ -84,16 +84,15 @@ struct Row {
 
 constexpr Row Rows[] = {
     {Data::TypeFolder, ShowFolder},
-    {Data::TypeResetHistoryMRU,
-     [](const Call& call, Data&) { ResetList(call.context.g_HistoryMRU); }},
+    {Data::TypeResetHistoryMRU, [](const Call& call, Data&) { ResetList(call.context.history); }},
     {Data::TypeResetQuickAccessMRU,
-     [](const Call& call, Data&) { ResetList(call.context.g_QuickAccessMRU); }},
+     [](const Call& call, Data&) { ResetList(call.context.quickAccess); }},
     {Data::TypeAddToQuickAccessMRU,
      [](const Call& call, Data&) { AddToQuickAccess(call.context); }},
     {Data::TypeDesigner, [](const Call& call, Data&) { StartDesigner(call.context, call.window); }},
     {Data::TypeOpenInNewWindow,
      [](const Call& call, Data&) {
-       MakeOpener(call).OpenFile(call.context.CurrentFile, call.window);
+       MakeOpener(call).OpenFile(call.context.selection.file, call.window);
      }},
     {Data::TypeFile, OpenFileItem},
     {Data::TypeCustomAction, PlayCustomAction},
@@ -114,7 +113,7 @@ constexpr Row Rows[] = {
 
 /// The identifier of an offset; Error 6 for one that no menu can hold.
 std::int32_t CommandId(const CommandContext& context, std::int32_t offset) {
-  const std::int64_t id = std::int64_t{offset} + context.m_lIdCmdFirst;
+  const std::int64_t id = std::int64_t{offset} + context.firstId;
   using Limits = std::numeric_limits<std::int32_t>;
   if (id < Limits::min() || id > Limits::max()) throw Error(Error::Overflow, L"Overflow");
   return static_cast<std::int32_t>(id);
@@ -128,11 +127,11 @@ std::int32_t VerbOffset(std::wstring_view verb) {
 
 /// The entry that switches the debug log on and off, which has no node.
 bool IsDebugSwitch(const CommandContext& context, std::int32_t offset) {
-  return context.g_Options.m_bDebugEnableInMenu && offset == 0;
+  return context.options.m_bDebugEnableInMenu && offset == 0;
 }
 
 bool IsOpen(const CommandContext& context, const InvokeRequest& request) {
-  return LowerCase(request.verb) == L"open" && !context.CurrentFile.empty();
+  return LowerCase(request.verb) == L"open" && !context.selection.file.empty();
 }
 
 /// The menu's item of that identifier, or none.
@@ -144,10 +143,10 @@ Command Find(const CommandContext& context, std::int32_t id) {
 
 void ToggleDebugging(const CommandContext& context) {
   const Platform& platform = context.platform;
-  context.g_Options.m_bDebugEnable = !context.g_Options.m_bDebugEnable;
-  context.g_Options.Reg_Save({platform.registry, platform.files, platform.boxes, platform.system,
-                              platform.clock, platform.locale},
-                             L"", true);
+  context.options.m_bDebugEnable = !context.options.m_bDebugEnable;
+  context.options.Reg_Save({platform.registry, platform.files, platform.boxes, platform.system,
+                            platform.clock, platform.locale},
+                           L"", true);
 }
 
 /// The record of the chosen entry; null when there is none, or when all is done already.
@@ -161,7 +160,7 @@ Record Identify(const InvokeRequest& request, Call& call) {
     Log(L"Verb=", request.verb);
     if (IsOpen(context, request)) {
       call.isOurs = true;
-      MakeOpener(call).OpenFile(context.CurrentFile, call.window);
+      MakeOpener(call).OpenFile(context.selection.file, call.window);
       return nullptr;
     }
     offset = VerbOffset(request.verb);
@@ -200,8 +199,9 @@ std::int32_t ToHResult(const PendingError& error) {
 /// The one command whose failure the shell gets to know.
 std::int32_t CopyNames(const Call& call) {
   try {
-    CopyNamesToClipboard(call.context.platform, call.window, call.context.m_pDataObject.get(),
-                         call.bCtrlPressed, call.bShiftPressed);
+    CopyNamesToClipboard(call.context.platform, call.window,
+                         call.context.selection.dataObject.get(), call.bCtrlPressed,
+                         call.bShiftPressed);
     return 0;
   } catch (const ClipboardInUse& error) {
     Warn(call.context.platform.boxes, error.Description());
@@ -252,8 +252,8 @@ CommandText IContextMenu_GetCommandString(const CommandContext& context,
     if (!command) return answer;
     const Record item = command.Record();
     Log(L"m_lType=", item->m_lType, L"  ", item->IsTypeFolder());
-    std::wstring text =
-        context.tools.GetExplorerDescription(*item, context.CurrentFile, context.CurrentFolder);
+    std::wstring text = context.tools.GetExplorerDescription(*item, context.selection.file,
+                                                             context.selection.folder);
     if (text.empty()) return answer;
     answer.kind =
         request.uFlags == WideHelpText ? CommandText::Kind::Wide : CommandText::Kind::Ansi;

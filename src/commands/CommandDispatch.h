@@ -12,7 +12,7 @@ namespace orvane {
 struct InvokeRequest {
   WindowHandle window = WindowHandle::None;  // the one that asked for the menu
   bool byOffset = true;                      // else by its verb
-  std::int32_t offset = 0;                   // from m_lIdCmdFirst
+  std::int32_t offset = 0;                   // from the menu's first identifier
   std::wstring verb;
   std::intptr_t siteBrowser = 0;  // the IShellBrowser of the menu's site; 0 without
 };
@@ -26,7 +26,7 @@ struct InvokeOutcome {
 
 /// What the shell wants to know of an entry.
 struct TextRequest {
-  std::int32_t idCmd = 0;    // offset from m_lIdCmdFirst
+  std::int32_t idCmd = 0;    // offset from the menu's first identifier
   std::uint32_t uFlags = 0;  // GCS_*
   std::int32_t pszName = 0;  // the buffer's address and size, for the log
   std::uint32_t cchMax = 0;

@@ -27,7 +27,7 @@ FolderCommand::FolderCommand(const CommandContext& context, WindowHandle window,
 void FolderCommand::Run(const clsOrvaneData& item, bool bCtrlPressed, bool bShiftPressed) {
   if (!Find(item)) return;
   Log(L"pidlAddress=", Hex(m_pidl.bytes.data()));
-  Remember(m_context, m_context.g_HistoryMRU, item);
+  Remember(m_context, m_context.history, item);
   if (item.OptionsIsBrowseAndOpen() || (bCtrlPressed && bShiftPressed))
     BrowseAndOpen();
   else if (item.OptionsIsExploreInNewWindow() || bCtrlPressed)
@@ -69,12 +69,12 @@ void FolderCommand::ShowInWindow() {
 }
 
 bool FolderCommand::PlayWindowAction() {
-  if (m_context.m_lNumWindowActions == 0) return false;
+  if (m_context.windowActions == 0) return false;
   const std::wstring path = PidlToPath(m_platform.shell, m_pidl);
   if (path.empty()) return false;
   clsCustomActions action(m_context.actions);
   const WindowHandle window =
-      action.MatchWindow(m_window, m_context.g_Options.m_szShellCustomActionsFile);
+      action.MatchWindow(m_window, m_context.options.m_szShellCustomActionsFile);
   if (window == WindowHandle::None) return false;
   Log(L"hWnd=", Hex(window), L"  Action=", action.m_szDescription);
   ActivateWindowProcess(m_platform.processes, window);

@@ -14,7 +14,7 @@ namespace orvane {
 /// others a thing that cannot be opened stays closed.
 class Opener {
  public:
-  Opener(Launcher& launcher, ProfileReader& profiles, Shell& shell)
+  Opener(Launcher& launcher, ProfileFiles& profiles, Shell& shell)
       : m_launcher(launcher), m_profiles(profiles), m_shell(shell) {}
 
   /// With the default verb; an Internet shortcut that names an address goes to the browser.
@@ -32,7 +32,7 @@ class Opener {
 
  private:
   Launcher& m_launcher;
-  ProfileReader& m_profiles;
+  ProfileFiles& m_profiles;
   Shell& m_shell;
 };
 

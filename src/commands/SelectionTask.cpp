@@ -33,7 +33,7 @@ bool ConfirmIncomplete(MessageBoxes& boxes) {
 bool BuildLists(const CommandContext& context, WindowHandle window, const clsOrvaneData& item,
                 bool recursive, bool shortNames, TaskLists& lists) {
   const Platform& platform = context.platform;
-  frmClipboardProgress form(platform.files, context.m_pDataObject.get(), lists, shortNames,
+  frmClipboardProgress form(platform.files, context.selection.dataObject.get(), lists, shortNames,
                             frmClipboardProgress::TaskCaption);
   if (recursive)
     form.ShowModal(platform.dialogs, window);

@@ -23,11 +23,11 @@ std::wstring frmCopyTo::Title() {
 }
 
 std::wstring frmCopyTo::InitialDestination() {
-  return m_services.g_CopyToMRU.FileCount() > 0 ? Choose(0) : std::wstring();
+  return m_services.copyTo.FileCount() > 0 ? Choose(0) : std::wstring();
 }
 
 std::vector<frmCopyTo::Slot> frmCopyTo::Slots() {
-  const clsMRU& list = m_services.g_CopyToMRU;
+  const clsMRU& list = m_services.copyTo;
   std::vector<Slot> slots;
   for (std::int32_t i = 1; i <= list.MaxFileCount(); ++i) {
     const std::wstring number = std::to_wstring(i) + L".";
@@ -53,7 +53,7 @@ bool frmCopyTo::Accept(const std::wstring& destination) {
     Warn(m_services.boxes, L"Destination folder does not exist!");
     return false;
   }
-  m_services.g_CopyToMRU.Remember(destination);
+  m_services.copyTo.Remember(destination);
   m_szDest = destination;
   m_bOk = true;
   return true;

@@ -16,7 +16,7 @@ class frmCopyTo : public CopyToModel {
     FileReader& files;
     Shell& shell;
     MessageBoxes& boxes;
-    clsMRU& g_CopyToMRU;
+    clsMRU& copyTo;
     bool showBackground;
   };
 

@@ -69,7 +69,7 @@ void MenuFile::Read(const std::wstring& path, const std::function<void(const Def
 }
 
 std::vector<std::byte> MenuFile::BytesOf(const Definition& definition) const {
-  return WriteDefinition(definition, m_codePage, m_debug);
+  return WriteDefinition(definition, m_codePage, m_scrambler);
 }
 
 void MenuFile::Write(const std::wstring& path, const Definition& definition) {

@@ -16,9 +16,9 @@ namespace orvane::designer {
 class MenuFile {
  public:
   /// All are kept and outlive the object.
-  MenuFile(FileSystem& files, const CodePage& codePage, clsTrace& debug,
+  MenuFile(FileSystem& files, const CodePage& codePage, Scrambler& scrambler,
            const clsOrvaneDataTools& tools)
-      : m_files(files), m_codePage(codePage), m_debug(debug), m_tools(tools) {}
+      : m_files(files), m_codePage(codePage), m_scrambler(scrambler), m_tools(tools) {}
 
   const std::wstring& Path() const { return m_path; }  // empty: not in a file yet
   void Forget() { m_path.clear(); }
@@ -44,7 +44,7 @@ class MenuFile {
 
   FileSystem& m_files;
   const CodePage& m_codePage;
-  clsTrace& m_debug;
+  Scrambler& m_scrambler;
   const clsOrvaneDataTools& m_tools;
   std::wstring m_path;
   std::optional<std::vector<std::byte>> m_bytes;  // none: there was no file

@@ -20,11 +20,11 @@ std::wstring Joined(const Script& script) {
 Preview::Preview(const Platform& platform, std::vector<std::byte> definition, const Sample& sample)
     : m_rehearsal(platform), m_globals(m_rehearsal.Bundle()), m_handler(m_globals) {
   m_rehearsal.Files().Put(UnsavedMenu, std::move(definition));
-  m_globals.g_Options.m_szShellConfigFile = UnsavedMenu;
-  m_globals.g_Options.m_bDebugEnable = false;
-  m_globals.g_Debug.Terminate();
-  m_globals.g_Timing.Terminate();
-  m_globals.g_Options.m_bShellEnable = true;
+  m_globals.options.m_szShellConfigFile = UnsavedMenu;
+  m_globals.options.m_bDebugEnable = false;
+  m_globals.debug.Terminate();
+  m_globals.timing.Terminate();
+  m_globals.options.m_bShellEnable = true;
   std::shared_ptr<DataObject> selection;
   if (!sample.names.empty()) selection = std::make_shared<SampleSelection>(sample);
   m_handler.IShellExtInit_Initialize(

@@ -29,7 +29,7 @@ int DocumentFiles::Ask(const std::wstring& text, UINT style) const {
 }
 
 void DocumentFiles::Start(const std::wstring& path) {
-  const std::wstring& named = m_program.globals.g_Options.m_szShellConfigFile;
+  const std::wstring& named = m_program.globals.options.m_szShellConfigFile;
   if (!path.empty()) {
     Open(path);
   } else if (FileExists(m_program.platform.files, named)) {

@@ -61,7 +61,7 @@ void MainWindow::Open(const std::wstring& path, int show) {
   m_program.recent.FileMenu(&m_recent);
   m_program.recent.UpdateFileMenu({});
   ShowDocument();
-  if (!m_program.globals.g_Options.m_bGeneralSaveWindowPos ||
+  if (!m_program.globals.options.m_bGeneralSaveWindowPos ||
       !RestorePlacement(Handle(), m_program.platform.registry, show))
     ShowWindow(Handle(), show);
   UpdateWindow(Handle());
@@ -247,7 +247,7 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
       if (m_files.MayLeave()) DestroyWindow(Handle());
       return 0;
     case WM_DESTROY:
-      if (m_program.globals.g_Options.m_bGeneralSaveWindowPos)
+      if (m_program.globals.options.m_bGeneralSaveWindowPos)
         SavePlacement(Handle(), m_program.platform.registry);
       m_program.recent.FileMenu(nullptr);
       m_program.document.Listen(nullptr);

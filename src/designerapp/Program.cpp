@@ -17,7 +17,7 @@ Program::Program(HINSTANCE instance)
       platform(desktop.Bundle()),
       globals(platform),
       document(
-          designer::MenuFile(platform.files, globals.codePage, globals.g_Debug, globals.tools)),
+          designer::MenuFile(platform.files, globals.codePage, globals.scrambler, globals.tools)),
       recent(platform.registry) {
   desktop.system.ProgramFolder(designer::MenuHome(desktop.files, desktop.registry, folder));
   LoadSettings();
@@ -29,11 +29,11 @@ Program::Program(HINSTANCE instance)
 void Program::LoadSettings() {
   const designer::Rehearsal quiet(platform);
   const Platform& services = quiet.Bundle();
-  globals.g_Options.Reg_Load({services.registry, services.files, services.boxes, services.system,
-                              services.clock, services.locale},
-                             SettingsKey);
-  globals.g_Debug.Terminate();
-  globals.g_Timing.Terminate();
+  globals.options.Reg_Load({services.registry, services.files, services.boxes, services.system,
+                            services.clock, services.locale},
+                           SettingsKey);
+  globals.debug.Terminate();
+  globals.timing.Terminate();
 }
 
 }  // namespace orvane::designerapp

@@ -35,7 +35,7 @@ bool IsText(const SettingRow& row) {
 SettingsDialog::SettingsDialog(Program& program)
     : DialogWindow(program.instance, IDD_SETTINGS, {}),
       m_program(program),
-      m_draft(program.globals.g_Options, DefaultSettings(program.platform.system)) {}
+      m_draft(program.globals.options, DefaultSettings(program.platform.system)) {}
 
 void SettingsDialog::Opened() {
   m_unit = {0, 0, 400, 400};
@@ -195,7 +195,7 @@ void SettingsDialog::Save() {
   End(TRUE);
   m_draft.Save({services.registry, services.files, services.boxes, services.system, services.clock,
                 services.locale},
-               m_program.globals.g_Options);
+               m_program.globals.options);
 }
 
 INT_PTR SettingsDialog::Other(UINT message, WPARAM, LPARAM lParam) {

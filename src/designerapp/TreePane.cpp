@@ -60,7 +60,7 @@ void TreePane::ShowBackground() {
   HIGHCONTRASTW contrast{};
   contrast.cbSize = sizeof contrast;
   SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
-  const bool isColoured = m_program.globals.g_Options.m_bGeneralShowBackground &&
+  const bool isColoured = m_program.globals.options.m_bGeneralShowBackground &&
                           !(contrast.dwFlags & HCF_HIGHCONTRASTON);
   TreeView_SetBkColor(m_tree, isColoured ? Tint() : CLR_NONE);
 }

@@ -48,7 +48,7 @@ int Run(HINSTANCE instance, int show) {
   Program program(instance);
   const std::wstring file = FileOfCommandLine();
   OneInstance instances;
-  if (!instances.IsFirst() && !program.globals.g_Options.m_bGeneralAllowMultipleInstances &&
+  if (!instances.IsFirst() && !program.globals.options.m_bGeneralAllowMultipleInstances &&
       OneInstance::HandOver(file))
     return 0;
   MainWindow window(program);

@@ -44,7 +44,7 @@ class MenuPainter {
   Gdi& m_gdi;
   std::int32_t m_dpi = 0;  // 0 until it is asked for
   FontHandle m_font = FontHandle::None;
-  UniqueFont m_menuFont;  // m_font, when the desktop has none of its own
+  UniqueFont m_menuFont;  // the font when the desktop has none of its own
 };
 
 }  // namespace orvane

@@ -12,14 +12,15 @@ namespace {
 /// Appends value records to a file's bytes.
 class ValueWriter {
  public:
-  ValueWriter(const CodePage& codePage, clsTrace& debug) : m_codePage(codePage), m_debug(debug) {}
+  ValueWriter(const CodePage& codePage, Scrambler& scrambler)
+      : m_codePage(codePage), m_scrambler(scrambler) {}
 
   /// None when it was written, else why it cannot be.
   const wchar_t* Text(std::wstring_view text) {
     if (text.size() > DefinitionFile::MaxLength) return L"is longer than 65535 characters";
     std::vector<std::byte> bytes = m_codePage.Encode(text);
     if (m_codePage.Decode(bytes) != text) return L"has a character that the code page has not";
-    m_debug.EncryptBytes(bytes);
+    m_scrambler.Scramble(bytes);
     Number(DefinitionFile::TextTag);
     Number(bytes.size());
     m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end());
@@ -35,7 +36,7 @@ class ValueWriter {
   }
 
   const CodePage& m_codePage;
-  clsTrace& m_debug;
+  Scrambler& m_scrambler;
   std::vector<std::byte> m_bytes;
 };
 
@@ -92,8 +93,8 @@ Definition ReadDefinition(DefinitionFile& file, const clsOrvaneDataTools& tools)
 }
 
 std::vector<std::byte> WriteDefinition(const Definition& definition, const CodePage& codePage,
-                                       clsTrace& debug) {
-  ValueWriter writer(codePage, debug);
+                                       Scrambler& scrambler) {
+  ValueWriter writer(codePage, scrambler);
   writer.Text(std::to_wstring(clsOrvaneDataTools::CurrentVersion()));
   writer.Text(Commas(definition.header.HeaderValue1,
                      static_cast<std::int32_t>(definition.items.size()),

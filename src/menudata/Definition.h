@@ -9,7 +9,7 @@
 #include "menudata/clsOrvaneData.h"
 #include "menudata/clsOrvaneDataTools.h"
 #include "support/CodePage.h"
-#include "support/clsTrace.h"
+#include "support/Scrambler.h"
 
 namespace orvane {
 
@@ -47,6 +47,6 @@ Definition ReadDefinition(DefinitionFile& file, const clsOrvaneDataTools& tools)
 /// The file's bytes. UnwritableText for a text that is too long or has a character that the code
 /// page does not have.
 std::vector<std::byte> WriteDefinition(const Definition& definition, const CodePage& codePage,
-                                       clsTrace& debug);
+                                       Scrambler& scrambler);
 
 }  // namespace orvane

@@ -53,14 +53,14 @@ std::optional<std::array<std::int32_t, 3>> HeaderNumbers(const std::wstring& tex
 
 std::wstring clsOrvaneDataTools::File_ReadString(DefinitionFile& file) const {
   const std::span<std::byte> bytes = file.Next();
-  m_debug.EncryptBytes(bytes);
+  m_scrambler.Scramble(bytes);
   return file.Page().Decode(bytes);
 }
 
 // Without a text in between: a large menu has thousands of them.
 FieldText clsOrvaneDataTools::ReadField(DefinitionFile& file) const {
   const std::span<std::byte> bytes = file.Next();
-  m_debug.EncryptBytes(bytes);
+  m_scrambler.Scramble(bytes);
   return {bytes.size(), [&](wchar_t* characters) { file.Page().Decode(bytes, characters); }};
 }
 
@@ -88,7 +88,7 @@ bool clsOrvaneDataTools::File_ReadHeader(DefinitionFile& file, clsFileHeader& he
 bool clsOrvaneDataTools::File_ReadItemHeader(DefinitionFile& file, std::int32_t& parentIndex,
                                              clsOrvaneData& item) const {
   const std::span<std::byte> bytes = file.Next();
-  m_debug.EncryptBytes(bytes);
+  m_scrambler.Scramble(bytes);
   auto numbers = PlainNumbers(bytes);
   if (!numbers) numbers = HeaderNumbers(file.Page().Decode(bytes));
   if (!numbers) return false;
@@ -111,9 +111,10 @@ void clsOrvaneDataTools::ReadData(DefinitionFile& file, clsOrvaneData& item) con
 std::wstring clsOrvaneDataTools::CreateHistoryMRU(const clsOrvaneData& item) const {
   TraceScope scope(L"CreateHistoryMRU");
   const FieldText& place = item.IsTypeCustomAction() ? item.m_szAction_Actions : item.Location();
-  std::wstring entry = m_debug.EncryptStringAscii(std::to_wstring(item.m_lType) + L"," +
-                                                  std::to_wstring(item.m_lOptions) + L",\"" +
-                                                  place + L"\",\"" + item.Caption() + L"\"");
+  std::wstring entry =
+      m_scrambler.Scramble(std::to_wstring(item.m_lType) + L"," + std::to_wstring(item.m_lOptions) +
+                               L",\"" + place + L"\",\"" + item.Caption() + L"\"",
+                           m_codePage);
   Log(L"rv=", entry);
   return entry;
 }
@@ -124,7 +125,7 @@ void clsOrvaneDataTools::BreakdownHistoryMRU(const std::wstring& text, clsOrvane
   clsTokenizer tokenizer;
   tokenizer.QuoteChars(L"\"");
   tokenizer.SeparatorChars(L",");
-  tokenizer.Text(m_debug.EncryptStringAscii(text));
+  tokenizer.Text(m_scrambler.Scramble(text, m_codePage));
   const auto next = [&] {
     std::wstring token;
     std::wstring separator;

@@ -8,7 +8,7 @@
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneData.h"
 #include "platform/Shell.h"
-#include "support/clsTrace.h"
+#include "support/Scrambler.h"
 
 namespace orvane {
 
@@ -16,9 +16,10 @@ namespace orvane {
 /// entry in a recently-used list, the caption, the help text, the one-line summary.
 class clsOrvaneDataTools {
  public:
-  /// `debug` is asked for its scrambling only and need not be switched on.
-  clsOrvaneDataTools(const clsOptions& options, clsTrace& debug, Shell& shell)
-      : m_options(options), m_debug(debug), m_shell(shell) {}
+  /// All are kept and outlive the object.
+  clsOrvaneDataTools(const clsOptions& options, const CodePage& codePage, Scrambler& scrambler,
+                     Shell& shell)
+      : m_options(options), m_codePage(codePage), m_scrambler(scrambler), m_shell(shell) {}
 
   static constexpr std::int32_t MinVersion() { return 1; }
   static constexpr std::int32_t CurrentVersion() { return 1; }
@@ -54,7 +55,8 @@ class clsOrvaneDataTools {
 
  private:
   const clsOptions& m_options;
-  clsTrace& m_debug;
+  const CodePage& m_codePage;
+  Scrambler& m_scrambler;
   Shell& m_shell;
 };
 

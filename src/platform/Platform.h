@@ -22,8 +22,9 @@ class SystemInfo;
 class Tcp;
 class Windows;
 
-/// Everything the system needs of Windows. Only the places where a program is put together see it
-/// whole; everybody else takes the few nouns he uses.
+/// Everything the system needs of Windows. Whole it is seen where a program is put together, by the
+/// handler with its thread's globals, by the dispatch of commands, which may need any of it, and by
+/// the designer's rehearsal of them. Everything else takes the few nouns that it uses.
 struct Platform {
   Clipboard& clipboard;
   Clock& clock;

@@ -18,23 +18,22 @@ struct ShownCommand {
 };
 
 bool HasSelection(const Selection& selection) {
-  return selection.m_lSelectionCount > 0;
+  return selection.count > 0;
 }
 
 constexpr ShownCommand Commands[] = {
     {Data::TypeOpenInNewWindow, &clsOptions::ShowFlag_IsOpen,
-     [](const Selection& selection) { return !selection.CurrentFile.empty(); },
+     [](const Selection& selection) { return !selection.file.empty(); },
      L"Adding Open in new window open"},
     {Data::TypeCopyFilenamesToClipboard, &clsOptions::ShowFlag_IsCopyToClipboard,
-     [](const Selection& selection) { return selection.m_pDataObject != nullptr; },
+     [](const Selection& selection) { return selection.dataObject != nullptr; },
      L"Adding Copy to clipboard"},
     {Data::TypeRunDialog, &clsOptions::ShowFlag_IsRunDialog,
-     [](const Selection& selection) { return selection.m_lSelectionCount == 1; },
-     L"Adding run dialog"},
+     [](const Selection& selection) { return selection.count == 1; }, L"Adding run dialog"},
     {Data::TypeCopyTo, &clsOptions::ShowFlag_IsCopyTo, HasSelection, L"Adding Copy To"},
     {Data::TypeMoveTo, &clsOptions::ShowFlag_IsMoveTo, HasSelection, L"Adding Move To"},
     {Data::TypeCommandPrompt, &clsOptions::ShowFlag_IsCommandPrompt,
-     [](const Selection& selection) { return !selection.CurrentFolder.empty(); },
+     [](const Selection& selection) { return !selection.folder.empty(); },
      L"Adding command prompt"},
     {Data::TypeTaskManager, &clsOptions::ShowFlag_IsTaskManager,
      [](const Selection&) { return true; }, L"Adding TaskManager"},
@@ -47,25 +46,24 @@ void BuiltInMenu::Add() {
 }
 
 bool BuiltInMenu::AddHistory() {
-  const std::int32_t display = m_globals.g_Options.m_lShellShowHistoryMRU;
-  const std::int32_t count = m_globals.g_HistoryMRU.FileCount();
+  const std::int32_t display = m_globals.options.m_lShellShowHistoryMRU;
+  const std::int32_t count = m_globals.history.FileCount();
   if (display < clsOptions::OptionsMenuDisplay_ShowInMainMenu || count < 1) return true;
   Log(L"m_lShellShowHistoryMRU=", display, L"  FileCount=", count);
   Target target = ShellMenu();
   return OpenList(display, Data::TypePopupHistory, target) &&
-         AddListEntries(m_globals.g_HistoryMRU, target);
+         AddListEntries(m_globals.history, target);
 }
 
 bool BuiltInMenu::AddQuickAccess() {
-  const std::int32_t display = m_globals.g_Options.m_lShellShowQuickAccessMRU;
+  const std::int32_t display = m_globals.options.m_lShellShowQuickAccessMRU;
   if (display < clsOptions::OptionsMenuDisplay_ShowInMainMenu) return true;
-  Log(L"m_lShellShowQuickAccessMRU=", display, L"  FileCount=",
-      m_globals.g_QuickAccessMRU.FileCount());
+  Log(L"m_lShellShowQuickAccessMRU=", display, L"  FileCount=", m_globals.quickAccess.FileCount());
   Target target = ShellMenu();
   if (display == clsOptions::OptionsMenuDisplay_ShowInMainMenu && m_writer.HasEntries(target.menu))
     m_writer.InsertSeparator(target);
   if (!OpenList(display, Data::TypePopupQuickAccess, target) ||
-      !AddListEntries(m_globals.g_QuickAccessMRU, target) || !m_writer.CanInsert())
+      !AddListEntries(m_globals.quickAccess, target) || !m_writer.CanInsert())
     return false;
   m_writer.InsertBuiltIn(target, Data::TypeAddToQuickAccessMRU, Picture::Add);
   return true;
@@ -121,8 +119,8 @@ bool BuiltInMenu::AddResets() {
   Log(L"Adding MRU options");
   bool separated = false;
   const std::pair<const clsMRU&, std::int32_t> resets[] = {
-      {m_globals.g_HistoryMRU, Data::TypeResetHistoryMRU},
-      {m_globals.g_QuickAccessMRU, Data::TypeResetQuickAccessMRU}};
+      {m_globals.history, Data::TypeResetHistoryMRU},
+      {m_globals.quickAccess, Data::TypeResetQuickAccessMRU}};
   for (const auto& [list, type] : resets) {
     if (list.FileCount() < 1) continue;
     if (!m_writer.CanInsert()) return false;
@@ -133,12 +131,12 @@ bool BuiltInMenu::AddResets() {
 }
 
 void BuiltInMenu::AddCommands() {
-  const bool inSubMenu = m_globals.g_Options.ShowFlag_IsInSubMenu();
+  const bool inSubMenu = m_globals.options.ShowFlag_IsInSubMenu();
   const Target target = inSubMenu ? Root() : ShellMenu();
   bool first = true;
   bool separated = false;
   for (const ShownCommand& command : Commands) {
-    if (!(m_globals.g_Options.*command.isShown)() || !command.applies(m_state.selection)) continue;
+    if (!(m_globals.options.*command.isShown)() || !command.applies(m_state.selection)) continue;
     if (!m_writer.CanInsert()) break;
     if (std::exchange(first, false) && m_writer.HasEntries(target.menu)) {
       m_writer.InsertSeparator(target);
@@ -151,7 +149,7 @@ void BuiltInMenu::AddCommands() {
 }
 
 void BuiltInMenu::SeparateRoot() {
-  if (m_writer.HasEntries(m_state.m_hRootMenu)) m_writer.InsertSeparator(Root());
+  if (m_writer.HasEntries(m_state.rootMenu)) m_writer.InsertSeparator(Root());
 }
 
 }  // namespace orvane

@@ -28,8 +28,8 @@ class BuiltInMenu {
   bool OpenList(std::int32_t display, std::int32_t popupType, Target& target);
   bool AddListEntries(const clsMRU& list, const Target& target);
   void DressListEntry(const clsOrvaneData& record, MenuItem& item);
-  Target Root() const { return {m_state.m_hRootMenu}; }
-  Target ShellMenu() { return {m_state.m_hMenu, &m_state.m_lMenuPosition}; }
+  Target Root() const { return {m_state.rootMenu}; }
+  Target ShellMenu() { return {m_state.shellMenu, &m_state.menuPosition}; }
   void SeparateRoot();
 
   ModuleGlobals& m_globals;

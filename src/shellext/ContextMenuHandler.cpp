@@ -41,7 +41,7 @@ ContextMenuHandler::ContextMenuHandler(ModuleGlobals& globals)
     : m_globals(globals),
       m_state(globals.platform.gdi, globals.platform.icons, globals.platform.files),
       m_painter(globals.platform.gdi),
-      m_drawing(globals.g_Options, globals.platform.menus, m_state.pictures, m_painter),
+      m_drawing(globals.options, globals.platform.menus, m_state.pictures, m_painter),
       m_writer(globals, m_state, m_drawing),
       m_dynamic(globals, m_state, m_writer),
       m_openMenu(globals, m_state, m_painter, m_dynamic) {
@@ -55,52 +55,52 @@ ContextMenuHandler::~ContextMenuHandler() {
 void ContextMenuHandler::UserControl_Initialize() {
   // The settings come first: they switch the trace on that logs the rest.
   const Platform& platform = m_globals.platform;
-  m_globals.g_Options.Reg_Load({platform.registry, platform.files, platform.boxes, platform.system,
-                                platform.clock, platform.locale},
-                               SettingsKey);
+  m_globals.options.Reg_Load({platform.registry, platform.files, platform.boxes, platform.system,
+                              platform.clock, platform.locale},
+                             SettingsKey);
   TraceScope scope(L"UserControl_Initialize");
-  const clsOptions& options = m_globals.g_Options;
+  const clsOptions& options = m_globals.options;
   try {
     Log(L"App.hInstance=", Hex(m_globals.platform.system.Module()));
-    m_globals.g_QuickAccessMRU.Path(QuickAccessKey);
-    m_globals.g_HistoryMRU.Path(HistoryKey);
-    m_globals.g_CopyToMRU.Path(CopyToKey);
-    SaveUnsaved(m_globals.g_HistoryMRU);
-    SaveUnsaved(m_globals.g_QuickAccessMRU);
-    m_globals.g_HistoryMRU.Load(options.m_lShellMaxHistoryMRU);
-    m_globals.g_QuickAccessMRU.Load(options.m_lShellMaxQuickAccessMRU);
-    m_globals.g_CopyToMRU.Load(CopyToCount);
+    m_globals.quickAccess.Path(QuickAccessKey);
+    m_globals.history.Path(HistoryKey);
+    m_globals.copyTo.Path(CopyToKey);
+    SaveUnsaved(m_globals.history);
+    SaveUnsaved(m_globals.quickAccess);
+    m_globals.history.Load(options.m_lShellMaxHistoryMRU);
+    m_globals.quickAccess.Load(options.m_lShellMaxQuickAccessMRU);
+    m_globals.copyTo.Load(CopyToCount);
   } catch (...) {
     scope.Caught();
   }
-  if (++m_globals.g_lReferenceCount < 2 && !options.m_szShellCustomActionsFile.empty())
+  if (++m_globals.handlers < 2 && !options.m_szShellCustomActionsFile.empty())
     CountWindowActions();
   else
-    Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
+    Log(L"g_lReferenceCount=", m_globals.handlers);
 }
 
 // A spoilt actions file costs the actions, not the menu.
 void ContextMenuHandler::CountWindowActions() noexcept {
   try {
     clsCustomActions actions(m_globals.actionServices);
-    m_state.m_lNumWindowActions =
-        actions.Count(clsCustomActions::TypeWindow, m_globals.g_Options.m_szShellCustomActionsFile);
+    m_state.windowActions =
+        actions.Count(clsCustomActions::TypeWindow, m_globals.options.m_szShellCustomActionsFile);
   } catch (...) {
     const PendingError error = CaughtError();
     Log(L"Error: ", error.number, L" - ", error.description);
   }
-  Log(L"m_lNumWindowActions=", m_state.m_lNumWindowActions);
+  Log(L"m_lNumWindowActions=", m_state.windowActions);
 }
 
 void ContextMenuHandler::UserControl_Terminate() {
   TraceScope scope(L"UserControl_Terminate");
   try {
     Log(L"Killing bitmaps");
-    Log(L"g_lReferenceCount=", m_globals.g_lReferenceCount);
-    if (--m_globals.g_lReferenceCount > 0) return;
+    Log(L"g_lReferenceCount=", m_globals.handlers);
+    if (--m_globals.handlers > 0) return;
     DestroyDynamicMenus();
-    SaveUnsaved(m_globals.g_QuickAccessMRU);
-    SaveUnsaved(m_globals.g_HistoryMRU);
+    SaveUnsaved(m_globals.quickAccess);
+    SaveUnsaved(m_globals.history);
   } catch (...) {
     scope.Caught();
   }
@@ -120,12 +120,11 @@ std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
   TraceScope scope(L"IShellExtInit_Initialize");
   try {
     Log(L"pidlFolder=", Hex(pidlFolder.bytes.data()), L"  hKeyProgID=", hKeyProgID);
-    const std::int32_t result =
-        m_state.selection.Capture(m_globals.platform.shell, m_globals.platform.files,
-                                  std::move(pidlFolder), std::move(pSelectionObj));
+    const std::int32_t result = m_state.selection.Capture(
+        m_globals.platform.shell, m_globals.platform.files, pidlFolder, std::move(pSelectionObj));
     if (result != 0) return result;
-    Log(L"CurrentFolder=", m_state.selection.CurrentFolder);
-    Log(L"CurrentFile=", m_state.selection.CurrentFile);
+    Log(L"CurrentFolder=", m_state.selection.folder);
+    Log(L"CurrentFile=", m_state.selection.file);
     return 0;
   } catch (...) {
     scope.Caught();
@@ -141,7 +140,7 @@ std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMen
   TraceScope scope(L"IContextMenu_QueryContextMenuEx");
   std::int32_t result = 0;
   try {
-    const bool showInfo = m_globals.g_Options.m_bDebugShowWindowsMenuInfo;
+    const bool showInfo = m_globals.options.m_bDebugShowWindowsMenuInfo;
     if (showInfo || ActiveDebugTrace()) {
       const std::wstring call = DescribeMenu(hMenu, indexMenu, idCmdFirst, idCmdLast, uFlags);
       if (showInfo) TellMenuInfo(call, std::int64_t{idCmdLast} - idCmdFirst);
@@ -171,7 +170,7 @@ std::int32_t ContextMenuHandler::IContextMenu_QueryContextMenuEx(MenuHandle hMen
 ContextMenuHandler::Part ContextMenuHandler::Participation(MenuHandle hMenu, std::int32_t indexMenu,
                                                            std::int32_t idCmdFirst,
                                                            std::int32_t idCmdLast) {
-  const clsOptions& options = m_globals.g_Options;
+  const clsOptions& options = m_globals.options;
   Log(L"m_bShellEnable=", options.m_bShellEnable);
   if (!options.m_bShellEnable) return Part::None;
   if (std::int64_t{idCmdLast} - idCmdFirst < 1) {
@@ -181,8 +180,8 @@ ContextMenuHandler::Part ContextMenuHandler::Participation(MenuHandle hMenu, std
     return Part::None;
   }
   if (!options.m_bShellShowInIE && IsIE(m_globals.platform.windows.Active())) return Part::Count;
-  if (m_globals.g_lReferenceCount > 1 &&
-      IsCaptionInMenu(m_globals.platform.menus, m_globals.g_szRootMenuCaption, hMenu, indexMenu)) {
+  if (m_globals.handlers > 1 &&
+      IsCaptionInMenu(m_globals.platform.menus, m_globals.rootCaption, hMenu, indexMenu)) {
     Log(L"In menu alredy!");
     return Part::None;
   }
@@ -191,7 +190,7 @@ ContextMenuHandler::Part ContextMenuHandler::Participation(MenuHandle hMenu, std
 
 void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
                                    std::int32_t idCmdFirst, std::int32_t idCmdLast) {
-  const clsOptions& options = m_globals.g_Options;
+  const clsOptions& options = m_globals.options;
   Log(L"m_bShellIgnoreBoundsCheck=", options.m_bShellIgnoreBoundsCheck);
   if (options.m_bShellIgnoreBoundsCheck) {
     idCmdLast = std::numeric_limits<std::int32_t>::max();
@@ -201,18 +200,18 @@ void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
   m_state.commands.Clear();
   // The submenus of an earlier menu belong to that menu; only this one's are filled from now on.
   m_state.dynamicMenus.Clear();
-  m_state.m_lNoAnswerCmdId = 0;
-  m_state.m_hMenu = hMenu;
-  m_state.m_lMenuPosition = indexMenu;
+  m_state.noAnswerId = 0;
+  m_state.shellMenu = hMenu;
+  m_state.menuPosition = indexMenu;
   UniqueMenu root = m_writer.CreatePopup();
-  m_state.m_hRootMenu = root.get();
+  m_state.rootMenu = root.get();
   Log(L"m_hRootMenu=", Hex(root.get()));
   m_drawing.ShellMenu(hMenu);
 
-  const MenuWriter::Target shellMenu{hMenu, &m_state.m_lMenuPosition};
+  const MenuWriter::Target shellMenu{hMenu, &m_state.menuPosition};
   m_writer.InsertSeparator(shellMenu);
   if (options.m_bDebugEnableInMenu) InsertDebugSwitch();
-  const std::int32_t rootPosition = m_state.m_lMenuPosition;
+  const std::int32_t rootPosition = m_state.menuPosition;
   if (!CreateMenu()) return;
   InsertRoot(std::move(root), rootPosition);
   if (m_state.commands.Count() == 0) {
@@ -226,27 +225,27 @@ void ContextMenuHandler::BuildMenu(MenuHandle hMenu, std::int32_t indexMenu,
 
 void ContextMenuHandler::InsertDebugSwitch() {
   MenuEntry entry;
-  entry.caption = m_globals.g_Options.m_bDebugEnable ? L"Disable debugging" : L"Enable debugging";
+  entry.caption = m_globals.options.m_bDebugEnable ? L"Disable debugging" : L"Enable debugging";
   entry.id = static_cast<std::uint32_t>(m_state.ids.Take());
-  m_globals.platform.menus.Insert(m_state.m_hMenu, m_state.m_lMenuPosition++, entry);
+  m_globals.platform.menus.Insert(m_state.shellMenu, m_state.menuPosition++, entry);
 }
 
 void ContextMenuHandler::InsertRoot(UniqueMenu root, std::int32_t position) {
-  if (Trim(m_globals.g_szRootMenuCaption).empty()) m_globals.g_szRootMenuCaption = ProductName;
+  if (Trim(m_globals.rootCaption).empty()) m_globals.rootCaption = ProductName;
   MenuEntry entry;
-  entry.caption = m_globals.g_szRootMenuCaption;
+  entry.caption = m_globals.rootCaption;
   entry.submenu = root.get();
-  if (IsShown(Picture::Mark, m_globals.g_Options.m_lShellShowIcons))
+  if (IsShown(Picture::Mark, m_globals.options.m_lShellShowIcons))
     entry.bitmap = PictureStore::CheckMark(m_state.pictures.Find(Picture::Mark));
-  if (!m_globals.platform.menus.Insert(m_state.m_hMenu, position, entry)) return;
+  if (!m_globals.platform.menus.Insert(m_state.shellMenu, position, entry)) return;
   root.release();
-  ++m_state.m_lMenuPosition;
+  ++m_state.menuPosition;
 }
 
 void ContextMenuHandler::ReserveDynamicIds() {
   Log(L"Dynamic menu's created ... allocating all available id's");
   Log(L"Before m_lMenuCmdId=", m_state.ids.Next());
-  m_state.ids.ReserveDynamic(m_globals.g_Options.m_bShellIgnoreBoundsCheck);
+  m_state.ids.ReserveDynamic(m_globals.options.m_bShellIgnoreBoundsCheck);
   Log(L"After m_lMenuCmdId=", m_state.ids.Next());
 }
 
@@ -254,8 +253,8 @@ bool ContextMenuHandler::CreateMenu() {
   TraceScope scope(L"CreateMenu");
   bool result = false;
   try {
-    if (m_globals.g_Options.m_bTimingEnable) m_globals.g_Timing.TimerStart(ReadTimer);
-    Log(L"Opening: ", m_globals.g_Options.m_szShellConfigFile);
+    if (m_globals.options.m_bTimingEnable) m_globals.timing.TimerStart(ReadTimer);
+    Log(L"Opening: ", m_globals.options.m_szShellConfigFile);
     Log(L"StartCmdIndex=", m_state.ids.Next());
     result = DefinitionMenu(m_globals, m_state, m_writer).Read();
     if (result) BuiltInMenu(m_globals, m_state, m_writer).Add();
@@ -273,9 +272,9 @@ bool ContextMenuHandler::CreateMenu() {
 }
 
 void ContextMenuHandler::StopReadTimer() noexcept {
-  if (!m_globals.g_Options.m_bTimingEnable) return;
+  if (!m_globals.options.m_bTimingEnable) return;
   try {
-    m_globals.g_Timing.TimerStop(L"ReadConfig", ReadTimer);
+    m_globals.timing.TimerStop(L"ReadConfig", ReadTimer);
   } catch (...) {
     // The tick counter wrapped around in between; there is no time to log.
   }
@@ -291,12 +290,18 @@ void ContextMenuHandler::Tell(const std::wstring& text, MessageBoxes::Icon icon)
 }
 
 CommandContext ContextMenuHandler::Context() const {
-  const Selection& selection = m_state.selection;
-  return {m_globals.platform,      m_globals.codePage,      m_globals.actionServices,
-          m_globals.g_Options,     m_globals.g_HistoryMRU,  m_globals.g_QuickAccessMRU,
-          m_globals.g_CopyToMRU,   m_globals.tools,         m_state.commands,
-          m_state.ids.First(),     selection.m_pDataObject, selection.m_szSelectedItem,
-          selection.CurrentFolder, selection.CurrentFile,   m_state.m_lNumWindowActions};
+  return {.platform = m_globals.platform,
+          .codePage = m_globals.codePage,
+          .actions = m_globals.actionServices,
+          .options = m_globals.options,
+          .history = m_globals.history,
+          .quickAccess = m_globals.quickAccess,
+          .copyTo = m_globals.copyTo,
+          .tools = m_globals.tools,
+          .commands = m_state.commands,
+          .firstId = m_state.ids.First(),
+          .windowActions = m_state.windowActions,
+          .selection = m_state.selection};
 }
 
 InvokeOutcome ContextMenuHandler::IContextMenu_InvokeCommand(const InvokeRequest& request) {

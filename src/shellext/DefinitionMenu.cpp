@@ -40,7 +40,7 @@ const ItemKind* FindKind(std::int32_t type) {
 }  // namespace
 
 bool DefinitionMenu::Read() {
-  auto bytes = m_globals.platform.files.Read(m_globals.g_Options.m_szShellConfigFile,
+  auto bytes = m_globals.platform.files.Read(m_globals.options.m_szShellConfigFile,
                                              FileReader::MaxSize, Patience::Menu);
   if (!bytes || bytes->empty()) return true;
   DefinitionFile file(std::move(*bytes), m_globals.codePage);
@@ -89,14 +89,14 @@ bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
 /// None for an item that holds no entries: what claims to stand below it appears nowhere. What a
 /// dynamic folder holds is the disk's affair.
 MenuHandle DefinitionMenu::ParentMenu(std::int32_t parentIndex) const {
-  if (parentIndex == 0) return m_state.m_hRootMenu;
+  if (parentIndex == 0) return m_state.rootMenu;
   const Command parent = m_state.commands.At(parentIndex);
   return parent.Record()->IsTypeDynamicFolder() ? MenuHandle::None : parent.Submenu();
 }
 
 bool DefinitionMenu::IsShown(const clsOrvaneData& record) const {
   if (!record.IsTypeSelectionTask()) return true;
-  const std::int32_t selected = m_state.selection.m_lSelectionCount;
+  const std::int32_t selected = m_state.selection.count;
   return (record.SelectionOptions_IsShowAlways() && selected >= 1) ||
          (record.SelectionOptions_IsShowSingle() && selected == 1) ||
          (record.SelectionOptions_IsShowMultiple() && selected >= 2);
@@ -108,9 +108,9 @@ bool DefinitionMenu::AddItem(Command command, MenuHandle menu) {
   Log(L"m_lType=", record.m_lType, L"  hCurrentMenu=", Hex(menu));
   const MenuWriter::Target target{menu};
   if (record.IsTypeRoot()) {
-    m_globals.g_szRootMenuCaption = m_writer.Caption(record);
-    Log(L"Root Caption=", m_globals.g_szRootMenuCaption);
-    command.Submenu(m_state.m_hRootMenu);
+    m_globals.rootCaption = m_writer.Caption(record);
+    Log(L"Root Caption=", m_globals.rootCaption);
+    command.Submenu(m_state.rootMenu);
     return true;
   }
   if (record.IsTypeSeparator()) {
@@ -144,8 +144,8 @@ void DefinitionMenu::AddPlaceholders() {
   if (!m_writer.CanInsert()) return;
   auto record = std::make_shared<clsOrvaneData>();
   record->m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
-  m_state.m_lEmptyCmdId = m_state.ids.Take();
-  m_state.commands.Add(std::move(record)).Id(m_state.m_lEmptyCmdId);
+  m_state.emptyId = m_state.ids.Take();
+  m_state.commands.Add(std::move(record)).Id(m_state.emptyId);
   m_state.dynamicMenus.ForEach([&](MenuHandle submenu) { m_writer.AppendPlaceholder(submenu); });
 }
 

@@ -73,12 +73,12 @@ void DynamicFolders::SayWhatIsThere(DynamicMenus::Entry entry, bool answered) {
 
 /// One entry of the command table stands for all folders that did not answer.
 bool DynamicFolders::TakeNoAnswerId() {
-  if (m_state.m_lNoAnswerCmdId != 0) return true;
+  if (m_state.noAnswerId != 0) return true;
   if (!m_writer.CanInsert()) return false;
   auto record = std::make_shared<clsOrvaneData>();
   record->m_lType = clsOrvaneData::TypeDynamicFolderNoAnswer;
-  m_state.m_lNoAnswerCmdId = m_state.ids.Take();
-  m_state.commands.Add(std::move(record)).Id(m_state.m_lNoAnswerCmdId);
+  m_state.noAnswerId = m_state.ids.Take();
+  m_state.commands.Add(std::move(record)).Id(m_state.noAnswerId);
   return true;
 }
 
@@ -92,7 +92,7 @@ bool DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
   if (!listing) return !patience.HasRunOut();
 
   const FileFilter filter(folder.m_szDFolder_Filter);
-  const std::int32_t maximum = m_globals.g_Options.m_lShellMaxMenuText;
+  const std::int32_t maximum = m_globals.options.m_lShellMaxMenuText;
   std::int32_t submenus = m_state.dynamicMenus.Count();
   for (FoundFile found; listing->Next(found);) {
     const bool isFolder = (found.attributes & FileAttribute::Directory) != 0;

@@ -51,8 +51,8 @@ void MenuWriter::AppendPlaceholder(MenuHandle submenu, std::int32_t type) {
   MenuEntry entry;
   entry.caption = Caption(placeholder);
   const bool empty = type == clsOrvaneData::TypeDynamicFolderEmpty;
-  entry.id = static_cast<std::uint32_t>(empty ? m_state.m_lEmptyCmdId : m_state.m_lNoAnswerCmdId);
-  entry.ownerDraw = m_globals.g_Options.m_bShellOwnerDraw;
+  entry.id = static_cast<std::uint32_t>(empty ? m_state.emptyId : m_state.noAnswerId);
+  entry.ownerDraw = m_globals.options.m_bShellOwnerDraw;
   entry.state = entry.ownerDraw ? MenuEntry::State::Disabled : MenuEntry::State::Grayed;
   m_globals.platform.menus.Insert(submenu, Menus::Append, entry);
 }
@@ -79,7 +79,7 @@ UniqueMenu MenuWriter::CreatePopup() {
 void MenuWriter::DressFolder(const clsOrvaneData& record, MenuItem& item) {
   if (IsCurrentFolder(record))
     item.picture = Picture::CurrentFolder;
-  else if (m_globals.g_Options.m_bShellUseOwnFolderBitmap)
+  else if (m_globals.options.m_bShellUseOwnFolderBitmap)
     item.picture = Picture::OwnFolder;
   else
     item.picture = Picture::OwnIcon;
@@ -102,7 +102,7 @@ std::int32_t MenuWriter::NextPosition(const Target& target) const {
 }
 
 bool MenuWriter::IsCurrentFolder(const clsOrvaneData& record) const {
-  const std::wstring& current = m_state.selection.CurrentFolder;
+  const std::wstring& current = m_state.selection.folder;
   if (current.empty()) return false;
   if (record.OptionsIsCSIDL())
     return IsCurrentFolderCSIDL(m_globals.platform.shell, WindowHandle::None, record.FolderCSIDL(),

@@ -10,6 +10,7 @@
 #include "menudata/clsOrvaneDataTools.h"
 #include "platform/Platform.h"
 #include "support/CodePage.h"
+#include "support/Scrambler.h"
 #include "support/ThreadState.h"
 #include "support/clsTrace.h"
 
@@ -25,18 +26,19 @@ struct ModuleGlobals {
 
   Platform platform;
   CodePage codePage;
-  clsTrace g_Debug;
-  clsTrace g_Timing;
+  clsTrace debug;
+  clsTrace timing;
   ThreadState threadState;  // what the thread's routines see of the traces
-  clsOptions g_Options;
-  clsMRU g_HistoryMRU;
-  clsMRU g_QuickAccessMRU;
-  clsMRU g_CopyToMRU;
+  clsOptions options;
+  clsMRU history;
+  clsMRU quickAccess;
+  clsMRU copyTo;
+  Scrambler scrambler;
   clsOrvaneDataTools tools;
-  clsProcess g_oProcess;
+  clsProcess process;
   ActionServices actionServices;
-  std::int32_t g_lReferenceCount = 0;  // live handlers
-  std::wstring g_szRootMenuCaption;
+  std::int32_t handlers = 0;  // live handlers
+  std::wstring rootCaption;
 };
 
 }  // namespace orvane

@@ -49,7 +49,7 @@ std::intptr_t OpenMenu::Type(MenuHandle submenu, wchar_t character) noexcept {
 
 bool OpenMenu::IsOurs(MenuHandle submenu) const {
   if (submenu == MenuHandle::None) return false;
-  if (submenu == m_state.m_hRootMenu) return true;
+  if (submenu == m_state.rootMenu) return true;
   for (std::int32_t i = 1; i <= m_state.commands.Count(); ++i)
     if (m_state.commands.At(i).Submenu() == submenu) return true;
   return false;

@@ -15,6 +15,12 @@ void Scrambler::Scramble(std::span<std::byte> bytes) {
   for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] ^= static_cast<std::byte>(m_stream[i]);
 }
 
+std::wstring Scrambler::Scramble(std::wstring_view text, const CodePage& codePage) {
+  std::vector<std::byte> bytes = codePage.Encode(text);
+  Scramble(bytes);
+  return codePage.Decode(bytes);
+}
+
 void Scrambler::Extend(std::size_t size) {
   if (size <= m_stream.size()) return;
   if (m_key.empty()) {

@@ -9,8 +9,8 @@ class clsTrace;
 /// What every routine of a thread may reach without being handed it: the two traces and the pending
 /// error. Lives with the thread's module globals, from the first handler to the last.
 struct ThreadState {
-  clsTrace* debug = nullptr;   // g_Debug
-  clsTrace* timing = nullptr;  // g_Timing
+  clsTrace* debug = nullptr;   // the log
+  clsTrace* timing = nullptr;  // times only
   PendingError pending;
 
   /// The calling thread's state; null while it has no handler.

@@ -77,7 +77,8 @@ template <class... Part>
 }
 
 /// Writes a line made of its parts: Log(L"hMenu=", Hex(menu), L"  szDir=", folder).
-/// Never fails: a line for which there is no memory is lost.
+/// Never fails: a line for which there is no memory is lost. The texts are fixed, spelling
+/// included: people compare logs over years.
 template <class... Part>
 [[gnu::always_inline]] inline void Log(const Part&... parts) noexcept {
   if (IsAnyTraceInitialised()) [[unlikely]]

@@ -221,12 +221,6 @@ std::wstring clsTrace::EncryptString(const std::wstring& text) {
   return FromUtf16(bytes);
 }
 
-std::wstring clsTrace::EncryptStringAscii(const std::wstring& text) {
-  std::vector<std::byte> bytes = m_codePage.Encode(text);
-  m_scrambler.Scramble(bytes);
-  return m_codePage.Decode(bytes);
-}
-
 std::wstring clsTrace::PasswordToHex(std::wstring_view text) const {
   std::wstring digits = L"~";
   for (std::byte byte : m_codePage.Encode(text)) {

@@ -73,7 +73,9 @@ class clsTrace {
 
   // Each is its own inverse.
   std::wstring EncryptString(const std::wstring& text);
-  std::wstring EncryptStringAscii(const std::wstring& text);
+  std::wstring EncryptStringAscii(const std::wstring& text) {
+    return m_scrambler.Scramble(text, m_codePage);
+  }
   /// The byte form of EncryptStringAscii.
   void EncryptBytes(std::span<std::byte> bytes) { m_scrambler.Scramble(bytes); }
 
@@ -100,8 +102,8 @@ class clsTrace {
   const CodePage& m_codePage;
 
   bool m_bShowErrors = true;
-  std::wstring m_szPassword = L"QWXKRTZPV";
-  Scrambler m_scrambler{m_szPassword};
+  std::wstring m_szPassword{Scrambler::ProductPassword};
+  Scrambler m_scrambler;
   bool m_bInitialised = false;
   std::unique_ptr<OutputFile> m_hFile;
   std::wstring m_szFile;

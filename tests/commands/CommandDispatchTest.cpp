@@ -14,7 +14,7 @@ class Dispatch : public testing::Test, protected Scene {
   Dispatch() {
     desktop.files.AddFile(L"C:\\Work\\plan.txt");
     desktop.files.AddFolder(L"C:\\My Work");
-    folder = L"C:\\Work";
+    selection.folder = L"C:\\Work";
     window = AddWindow(L"CabinetWClass");
     desktop.windows.Look(window)->results[memory::Launcher::GetShellBrowser] = 0x1234;
   }
@@ -80,7 +80,7 @@ TEST_F(Dispatch, EntriesAreFoundByOffsetAndByVerb) {
 }
 
 TEST_F(Dispatch, VerbsOpenTheSelectedFileAndFoldersWhateverKeyIsHeld) {
-  file = L"C:\\Work\\plan.txt";
+  selection.file = L"C:\\Work\\plan.txt";
   EXPECT_EQ(InvokeVerb(L"OPEN"), (Lines{"ShellExecuteEx file=C:\\Work\\plan.txt show=5"}));
   Add(Data::TypeFolder, L"C:\\Work");
   Hold(true, true);
@@ -113,7 +113,7 @@ TEST_F(Dispatch, FilesOpenAndBecomeHistory) {
   Add(Data::TypeFile, L"C:\\Work\\plan.txt")->Caption(L"Plan");
   EXPECT_EQ(Invoke(0), (Lines{"ShellExecuteEx file=C:\\Work\\plan.txt show=5"}));
   EXPECT_EQ(ItemsOf(history), (Entries{L"6 C:\\Work\\plan.txt Plan"}));
-  file = L"C:\\Work\\plan.txt";
+  selection.file = L"C:\\Work\\plan.txt";
   EXPECT_EQ(Run(Data::TypeOpenInNewWindow),
             (Lines{"ShellExecuteEx file=C:\\Work\\plan.txt show=5"}));
 }
@@ -132,7 +132,7 @@ TEST_F(Dispatch, ListsAreResetAndSaved) {
 TEST_F(Dispatch, QuickAccessTakesTheFileOrTheFolderOnce) {
   Run(Data::TypeAddToQuickAccessMRU);
   Run(Data::TypeAddToQuickAccessMRU);
-  file = L"C:\\Work\\plan.txt";
+  selection.file = L"C:\\Work\\plan.txt";
   Run(Data::TypeAddToQuickAccessMRU);
   EXPECT_EQ(ItemsOf(quickAccess), (Entries{L"6 C:\\Work\\plan.txt plan.txt", L"1 C:\\Work Work"}));
 }
@@ -149,7 +149,7 @@ TEST_F(Dispatch, ListsKeepWhatAnotherWindowAddedAndNothingThatTheirCodePageCanno
   Invoke(0);
   EXPECT_EQ(history.FileCount(), 2);
   EXPECT_EQ(history.File(2), L"from elsewhere");
-  file = L"C:\\\u05d0.txt";
+  selection.file = L"C:\\\u05d0.txt";
   Run(Data::TypeAddToQuickAccessMRU);
   EXPECT_EQ(quickAccess.FileCount(), 0);
 }
@@ -183,10 +183,10 @@ TEST_F(Dispatch, NamesGoToTheClipboard) {
   EXPECT_EQ(Run(type), (Lines{"SetClipboard text=C:\\Work<13><10>C:\\Work\\plan.txt<13><10>"
                               "C:\\My Work<13><10>"}));
 
-  selection->failure = memory::DataObject::LockFailed;
+  selected->failure = memory::DataObject::LockFailed;
   EXPECT_EQ(Run(type), Lines{});
   EXPECT_EQ(result, memory::DataObject::LockFailed) << "the shell's to know";
-  selection->failure = 0;
+  selected->failure = 0;
   desktop.clipboard.heldOpen = true;
   EXPECT_EQ(Run(type), (Lines{Warning("The clipboard is in use by another program. Please "
                                       "try again in a moment.")}));
@@ -205,10 +205,10 @@ TEST_F(Dispatch, RunDialogIsOpenedAndTypedInto) {
   for (const auto& row : rows) {
     Lines lines = keys;
     if (row.typed) lines.push_back(row.typed);
-    selectedItem = row.item;
+    selection.onlyItem = row.item;
     EXPECT_EQ(Run(Data::TypeRunDialog), lines);
   }
-  selectedItem = L"x";
+  selection.onlyItem = L"x";
   desktop.keyboard.runDialogAfter = 1'000;
   EXPECT_EQ(Run(Data::TypeRunDialog).back(), "SendKeys text=x");
   desktop.keyboard.runDialogAfter = 10'000;

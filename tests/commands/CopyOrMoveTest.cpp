@@ -27,8 +27,8 @@ class CopyOrMove : public testing::Test, protected Scene {
   /// The effects of the command after these answers; the destination is asked for when empty.
   Lines Run(bool copy, std::vector<std::wstring> answers, const std::wstring& destination = L"") {
     for (auto& answer : answers) desktop.answers.Add(std::move(answer));
-    CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None, selection.get(), copy,
-                        destination);
+    CopyOrMoveSelection(Services(), desktop.operations, WindowHandle::None,
+                        selection.dataObject.get(), copy, destination);
     return Effects();
   }
 };
@@ -74,9 +74,9 @@ TEST_F(CopyOrMove, FixedDestinationAsksNobodyAndNothingIsDoneWithoutNames) {
   EXPECT_TRUE(desktop.dialogs.shownTitles.empty());
   Select({});
   EXPECT_EQ(Run(true, {}, L"C:\\Backup"), Lines{});
-  selection->failure = memory::DataObject::NoFiles;
+  selected->failure = memory::DataObject::NoFiles;
   EXPECT_THROW(Run(true, {}, L"C:\\Backup"), Error);
-  selection = nullptr;
+  selection.dataObject = nullptr;
   EXPECT_EQ(Run(true, {}, L"C:\\Backup"), Lines{});
 }
 

@@ -66,8 +66,8 @@ class Scene {
   Scene& operator=(const Scene&) = delete;
 
   CommandContext Context() {
-    return {platform, codePage, actions,   options,      history, quickAccess, copyTo,       tools,
-            items,    First,    selection, selectedItem, folder,  file,        windowActions};
+    return {platform, codePage, actions, options, history,       quickAccess,
+            copyTo,   tools,    items,   First,   windowActions, selection};
   }
 
   /// A record in the command table, at the next offset.
@@ -80,7 +80,8 @@ class Scene {
   }
 
   void Select(std::initializer_list<std::wstring_view> names) {
-    selection = std::make_shared<memory::DataObject>(names);
+    selected = std::make_shared<memory::DataObject>(names);
+    selection.dataObject = selected;
   }
 
   WindowHandle AddWindow(const std::wstring& className, WindowHandle parent = WindowHandle::None) {
@@ -128,17 +129,16 @@ class Scene {
   clsMRU history{desktop.registry};
   clsMRU quickAccess{desktop.registry};
   clsMRU copyTo{desktop.registry};
-  clsOrvaneDataTools tools{options, debug, desktop.shell};
+  Scrambler scrambler;
+  clsOrvaneDataTools tools{options, codePage, scrambler, desktop.shell};
   clsProcess process{desktop.processes, desktop.system};
   ActionServices actions{desktop.files,  desktop.profiles, desktop.windows,
                          process,        desktop.keyboard, desktop.clock,
                          desktop.locale, desktop.boxes,    codePage};
 
   CommandTable items;
-  std::shared_ptr<memory::DataObject> selection;
-  std::wstring selectedItem;
-  std::wstring folder;
-  std::wstring file;
+  Selection selection;
+  std::shared_ptr<memory::DataObject> selected;  // what Select made of names
   std::int32_t windowActions = 0;
 
  private:

@@ -100,7 +100,7 @@ TEST_F(SelectionTask, FilterThatTakesNothingIsSaid) {
   EXPECT_EQ(Run(), (Lines{Warning("Selection Task - My &task<13><10><13><10>Filter (*.log,*.bmp) "
                                   "qualified nothing!")}));
   item.m_szSelection_Filter = L"";
-  selection = nullptr;
+  selection.dataObject = nullptr;
   EXPECT_EQ(Run(), (Lines{"SetClipboard", "ShellExecuteEx file=C:\\run.exe show=5"}));
 }
 

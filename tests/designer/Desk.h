@@ -38,7 +38,7 @@ struct Desk {
   memory::Desktop desktop;
   ModuleGlobals globals{desktop.Bundle()};
   designer::Document document{
-      designer::MenuFile(desktop.files, globals.codePage, globals.g_Debug, globals.tools)};
+      designer::MenuFile(desktop.files, globals.codePage, globals.scrambler, globals.tools)};
 
   MenuItem& Top() { return document.Top(); }
   MenuItem& Root() { return *document.Top().children.front(); }

@@ -15,7 +15,7 @@ TEST(SavedMenu, IsTheOneThatTheHandlerShows) {
   const MenuHandle menu = desk.desktop.menus.CreatePopup();
   handler.IContextMenu_QueryContextMenuEx(menu, 0, 1, 30000, 0);
   std::vector<std::wstring> shown;
-  for (const MenuEntry& entry : desk.desktop.menus.Entries(handler.State().m_hRootMenu)) {
+  for (const MenuEntry& entry : desk.desktop.menus.Entries(handler.State().rootMenu)) {
     shown.push_back(entry.caption);
     if (entry.submenu == MenuHandle::None) continue;
     for (const MenuEntry& inner : desk.desktop.menus.Entries(entry.submenu))

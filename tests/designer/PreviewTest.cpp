@@ -32,7 +32,7 @@ struct Scene {
     const MenuHandle menu = desk.desktop.menus.CreatePopup();
     preview.Build(menu);
     std::wstring outcome = NotShown;
-    for (const MenuHandle shown : {menu, preview.Handler().State().m_hRootMenu}) {
+    for (const MenuHandle shown : {menu, preview.Handler().State().rootMenu}) {
       for (const MenuEntry& entry : desk.desktop.menus.Entries(shown))
         if (entry.caption == caption && entry.submenu == MenuHandle::None)
           outcome = preview.Outcome(static_cast<std::int32_t>(entry.id));

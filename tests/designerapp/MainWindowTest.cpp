@@ -89,7 +89,7 @@ TEST(Keyboard, ChangesASettingAndGivesItItsDefaultAgain) {
   designer.Fill();
   designer.Open();
   const auto longest = [&] {
-    return std::to_wstring(designer.program.globals.g_Options.m_lShellMaxMenuText);
+    return std::to_wstring(designer.program.globals.options.m_lShellMaxMenuText);
   };
   User().Type(L"%ts%l20{ENTER}");
   EXPECT_EQ(designer.Once(L"20", longest), L"20");
@@ -177,9 +177,9 @@ TEST(WindowPlace, IsRememberedUnlessTheSettingsSayNo) {
   };
   openAndMove(50);
   EXPECT_EQ(openAndMove(70), 50);
-  designer.program.globals.g_Options.m_bGeneralSaveWindowPos = false;
+  designer.program.globals.options.m_bGeneralSaveWindowPos = false;
   openAndMove(90);
-  designer.program.globals.g_Options.m_bGeneralSaveWindowPos = true;
+  designer.program.globals.options.m_bGeneralSaveWindowPos = true;
   EXPECT_EQ(openAndMove(50), 70);
 }
 

@@ -18,7 +18,7 @@ TEST(Definition, WritesForeignFilesBackByteForByte) {
   World world;
   for (const char* name : {"every-kind.cfg", "root-only.cfg", "empty-captions.cfg", "deep.cfg"}) {
     const auto bytes = Fixture(name);
-    EXPECT_EQ(WriteDefinition(world.Read(bytes), world.codePage, world.debug), bytes) << name;
+    EXPECT_EQ(WriteDefinition(world.Read(bytes), world.codePage, world.scrambler), bytes) << name;
   }
 }
 
@@ -103,11 +103,11 @@ TEST(Definition, TextsThatTheFileCannotHold) {
   clsOrvaneData& item = definition.items[1].data;
   item.m_lType = clsOrvaneData::TypeFile;
   item.Caption(std::wstring(65535, L'x'));
-  EXPECT_NO_THROW(WriteDefinition(definition, world.codePage, world.debug));
+  EXPECT_NO_THROW(WriteDefinition(definition, world.codePage, world.scrambler));
   for (const std::wstring& caption : {std::wstring(65536, L'x'), std::wstring(L"\u4e2d")}) {
     item.Caption(caption);
     try {
-      WriteDefinition(definition, world.codePage, world.debug);
+      WriteDefinition(definition, world.codePage, world.scrambler);
       ADD_FAILURE() << caption.size();
     } catch (const UnwritableText& error) {
       EXPECT_EQ(error.Item(), 1u);

@@ -135,11 +135,11 @@ TEST(ItemTexts, Descriptions) {
 TEST(ItemTexts, HistoryEntries) {
   World world;
   const Data file = ItemOf(Data::TypeFile, L"A, b", L"C:\\a, b.txt", 9);
-  EXPECT_EQ(world.debug.EncryptStringAscii(world.tools.CreateHistoryMRU(file)),
+  EXPECT_EQ(world.scrambler.Scramble(world.tools.CreateHistoryMRU(file), world.codePage),
             L"6,9,\"C:\\a, b.txt\",\"A, b\"");
   Data action = ItemOf(Data::TypeCustomAction, L"Greet");
   action.m_szAction_Actions = L"Hello~";
-  EXPECT_EQ(world.debug.EncryptStringAscii(world.tools.CreateHistoryMRU(action)),
+  EXPECT_EQ(world.scrambler.Scramble(world.tools.CreateHistoryMRU(action), world.codePage),
             L"7,0,\"Hello~\",\"Greet\"");
   const std::pair<std::wstring, std::wstring> rows[] = {
       {L"6,9,\"C:\\a, b.txt\",\"A, b\"", L"6|9|C:\\a, b.txt|A, b|"},
@@ -153,7 +153,7 @@ TEST(ItemTexts, HistoryEntries) {
   };
   for (const auto& [plain, expected] : rows) {
     Data item;
-    world.tools.BreakdownHistoryMRU(world.debug.EncryptStringAscii(plain), item);
+    world.tools.BreakdownHistoryMRU(world.scrambler.Scramble(plain, world.codePage), item);
     EXPECT_EQ(std::to_wstring(item.m_lType) + L"|" + std::to_wstring(item.m_lOptions) + L"|" +
                   item.Location() + L"|" + item.Caption() + L"|" + item.m_szAction_Actions,
               expected);

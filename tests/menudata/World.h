@@ -58,7 +58,7 @@ struct World {
     std::vector<std::byte> file;
     for (const std::wstring& text : texts) {
       std::vector<std::byte> bytes = codePage.Encode(text);
-      debug.EncryptBytes(bytes);
+      scrambler.Scramble(bytes);
       for (const std::size_t number : {std::size_t{8}, bytes.size()}) {
         file.push_back(static_cast<std::byte>(number & 0xFF));
         file.push_back(static_cast<std::byte>(number >> 8));
@@ -87,7 +87,8 @@ struct World {
                   desktop.locale, desktop.tcp,   codePage};
   ThreadState thread{&debug, &timing, {}};
   clsOptions options;
-  clsOrvaneDataTools tools{options, debug, desktop.shell};
+  Scrambler scrambler;
+  clsOrvaneDataTools tools{options, codePage, scrambler, desktop.shell};
 };
 
 }  // namespace orvane::test

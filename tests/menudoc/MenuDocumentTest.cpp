@@ -82,7 +82,7 @@ TEST(MenuDocument, ReadingThenWritingGivesTheSameBytes) {
   for (const std::string& document : documents) {
     World world;
     const auto write = [&](const std::string& json) {
-      return WriteDefinition(ParseMenu(json).menu, world.codePage, world.debug);
+      return WriteDefinition(ParseMenu(json).menu, world.codePage, world.scrambler);
     };
     const auto bytes = write(document);
     const std::string readable = FormatMenu(InTreeOrder(world.Read(bytes)));

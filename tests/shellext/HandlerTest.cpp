@@ -30,12 +30,12 @@ TEST(Selection, TellsWhatTheMenuIsFor) {
     if (names.Count() > 0) data = std::make_shared<memory::DataObject>(names);
     const ItemIdList folder = *row.folder ? memory::Shell::ItemOf(row.folder) : ItemIdList();
     Selection selection;
-    selection.CurrentFile = L"of an earlier call";
+    selection.file = L"of an earlier call";
     EXPECT_EQ(selection.Capture(desktop.shell, desktop.files, folder, data), 0);
-    EXPECT_EQ(selection.CurrentFolder, row.currentFolder);
-    EXPECT_EQ(selection.CurrentFile, row.currentFile);
-    EXPECT_EQ(selection.m_szSelectedItem, row.selectedItem);
-    EXPECT_EQ(selection.m_lSelectionCount, static_cast<std::int32_t>(row.items.size()));
+    EXPECT_EQ(selection.folder, row.currentFolder);
+    EXPECT_EQ(selection.file, row.currentFile);
+    EXPECT_EQ(selection.onlyItem, row.selectedItem);
+    EXPECT_EQ(selection.count, static_cast<std::int32_t>(row.items.size()));
   }
 }
 
@@ -94,9 +94,9 @@ TEST(Handler, StoresAListThatItChangedAndNoOther) {
   EXPECT_EQ(elsewhere.FileCount(), 1) << "overwritten";
 
   click.Click();
-  click.globals->g_HistoryMRU.AddFile(L"entry");
+  click.globals->history.AddFile(L"entry");
   { ContextMenuHandler second(*click.globals); }
-  EXPECT_EQ(click.globals->g_HistoryMRU.FileCount(), 2) << "lost to the second one's loading";
+  EXPECT_EQ(click.globals->history.FileCount(), 2) << "lost to the second one's loading";
   elsewhere.Load(5);
   EXPECT_EQ(elsewhere.File(1), L"entry");
 }
@@ -107,10 +107,10 @@ TEST(Handler, BuildsItsMenuThoughAListHasBecomeShorter) {
   const Data item = Item(Data::TypeFile, L"a", L"C:\\a.txt");
   click.Remember(L"HistoryMRU", {item, item, item, item});
   click.Click();
-  click.globals->g_HistoryMRU.AddFile(L"not saved yet");
+  click.globals->history.AddFile(L"not saved yet");
   click.Set(L"ShelllMaxHistoryMRU", 3);
   ContextMenuHandler second(*click.globals);
-  EXPECT_LE(click.globals->g_HistoryMRU.FileCount(), 3);
+  EXPECT_LE(click.globals->history.FileCount(), 3);
 }
 
 TEST(Handler, WritesTheDebugLogOfAMenu) {

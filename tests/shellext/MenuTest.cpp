@@ -201,11 +201,11 @@ TEST(Menu, ASecondHandlerAddsNoSecondRootAndASecondQueryStartsOver) {
   const std::wstring menu = click.Menu();
   {
     ContextMenuHandler second(*click.globals);
-    EXPECT_EQ(click.globals->g_lReferenceCount, 2);
+    EXPECT_EQ(click.globals->handlers, 2);
     EXPECT_EQ(second.IContextMenu_QueryContextMenuEx(click.shellMenu, 0, 100, 200, 0), 0);
     EXPECT_EQ(click.Menu(), menu);
   }
-  EXPECT_EQ(click.globals->g_lReferenceCount, 1);
+  EXPECT_EQ(click.globals->handlers, 1);
   click.desktop.menus.Destroy(click.shellMenu);
   click.shellMenu = MenuHandle::None;
   EXPECT_EQ(click.Query(), count);

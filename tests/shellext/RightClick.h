@@ -150,8 +150,8 @@ class RightClick {
   void WriteDefinitionFile() {
     memory::Desktop scribe;
     const CodePage codePage(scribe.system.AnsiCharacters());
-    clsTrace debug(scribe.files, scribe.boxes, scribe.clock, scribe.locale, scribe.tcp, codePage);
-    const std::vector<std::byte> bytes = WriteDefinition(definition, codePage, debug);
+    Scrambler scrambler;
+    const std::vector<std::byte> bytes = WriteDefinition(definition, codePage, scrambler);
     Define({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   }
 
@@ -172,12 +172,12 @@ class RightClick {
     for (const MenuEntry& entry : desktop.menus.Entries(menu)) {
       if (entry.submenu != MenuHandle::None) Verify(entry.submenu, seen);
       const auto id = static_cast<std::int32_t>(entry.id);
-      if (entry.separator || entry.submenu == state.m_hRootMenu) continue;
+      if (entry.separator || entry.submenu == state.rootMenu) continue;
       if (entry.caption.ends_with(L"able debugging")) continue;
       EXPECT_GE(id, state.ids.First());
       EXPECT_LE(id, state.ids.Last());
       EXPECT_TRUE(state.commands.Find(id)) << id;
-      EXPECT_TRUE(seen.insert(entry.id).second || id == state.m_lEmptyCmdId) << id;
+      EXPECT_TRUE(seen.insert(entry.id).second || id == state.emptyId) << id;
     }
   }
 };

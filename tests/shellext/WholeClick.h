@@ -40,7 +40,7 @@ class WholeClick : public RightClick {
 
   /// One more than the offset of the last entry that the menu made when it was built.
   std::int32_t Offsets() const {
-    return handler->State().m_lEmptyCmdId - handler->State().ids.First() + 12;
+    return handler->State().emptyId - handler->State().ids.First() + 12;
   }
 
   std::int32_t Invoke(std::int32_t offset) {

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-/// The scrambling as it is laid down, byte by byte with its evolving key.
+/// The scrambling byte by byte, the key evolving with each.
 std::vector<std::byte> ScrambledSlowly(std::vector<std::byte> bytes, const std::string& password) {
   std::vector<unsigned> key;
   for (const char letter : password) {

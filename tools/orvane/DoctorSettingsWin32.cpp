@@ -15,11 +15,10 @@ constexpr wchar_t KeyShown[] = L"\"HKCU\\Software\\Tarnwick\\Orvane\"";
 /// The items of a definition file; Error when it is none.
 std::size_t CountItems(win32::Desktop& desktop, std::vector<std::byte> bytes) {
   const CodePage codePage(desktop.system.AnsiCharacters());
-  clsTrace debug(desktop.files, desktop.boxes, desktop.clock, desktop.locale, desktop.tcp,
-                 codePage);
+  Scrambler scrambler;
   const clsOptions options;
   DefinitionFile file(std::move(bytes), codePage);
-  return ReadDefinition(file, {options, debug, desktop.shell}).items.size();
+  return ReadDefinition(file, {options, codePage, scrambler, desktop.shell}).items.size();
 }
 
 void ReadMenu(Examination& examination, const std::wstring& path, std::vector<std::byte> bytes) {

@@ -35,14 +35,6 @@ struct Arguments {
   bool json = false;
 };
 
-/// The trace and the code page that such logs are written with.
-struct Trace {
-  memory::Desktop desktop;
-  CodePage codePage{HostSystem()->AnsiCharacters()};
-  clsTrace trace{desktop.files,  desktop.boxes, desktop.clock,
-                 desktop.locale, desktop.tcp,   codePage};
-};
-
 /// One log from its beginning; a log that is begun anew needs another one.
 class Reading {
  public:
@@ -62,10 +54,10 @@ class Reading {
 
  private:
   const Arguments& m_arguments;
-  Trace m_trace;
+  CodePage m_codePage{HostSystem()->AnsiCharacters()};
   LogPrinter m_printer;
   LogSummary m_summary;
-  LogReader m_reader{m_trace.trace, m_trace.codePage, [this](const LogLine& line) {
+  LogReader m_reader{m_codePage, [this](const LogLine& line) {
                        m_summary.Add(line);
                        m_printer.Print(line);
                      }};

@@ -17,8 +17,8 @@ std::size_t Word(std::string_view bytes, std::size_t at) {
 
 }  // namespace
 
-LogReader::LogReader(clsTrace& trace, const CodePage& codePage, Sink sink)
-    : m_trace(trace), m_codePage(codePage), m_sink(std::move(sink)) {}
+LogReader::LogReader(const CodePage& codePage, Sink sink)
+    : m_codePage(codePage), m_sink(std::move(sink)) {}
 
 void LogReader::Feed(std::string_view bytes) {
   m_pending.append(bytes);
@@ -37,7 +37,7 @@ void LogReader::TakeRecords() {
     length = Word(Rest(), 2);
     if (Rest().size() < HeadSize + length) return;
     std::string bytes(Rest().substr(HeadSize, length));
-    m_trace.EncryptBytes(std::as_writable_bytes(std::span(bytes)));
+    m_scrambler.Scramble(std::as_writable_bytes(std::span(bytes)));
     TakeLine(bytes);
     m_offset += HeadSize + length;
   }

@@ -6,7 +6,7 @@
 
 #include "LogLine.h"
 #include "support/CodePage.h"
-#include "support/clsTrace.h"
+#include "support/Scrambler.h"
 
 namespace orvane::tool {
 
@@ -15,8 +15,7 @@ class LogReader {
  public:
   using Sink = std::function<void(const LogLine&)>;
 
-  /// `trace` is what writes such logs.
-  LogReader(clsTrace& trace, const CodePage& codePage, Sink sink);
+  LogReader(const CodePage& codePage, Sink sink);
 
   /// The next bytes. std::runtime_error when they are no log's.
   void Feed(std::string_view bytes);
@@ -33,7 +32,7 @@ class LogReader {
   void TakeLine(std::string_view bytes);
   std::string_view Rest() const { return std::string_view(m_pending).substr(m_taken); }
 
-  clsTrace& m_trace;
+  Scrambler m_scrambler;
   const CodePage& m_codePage;
   Sink m_sink;
   LogLines m_lines;

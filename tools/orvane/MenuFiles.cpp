@@ -82,9 +82,7 @@ MenuFiles::MenuFiles(const MenuOptions& options)
     : m_windows(WindowsFor(options)),
       m_hasFiles(m_windows || !options.driveC.empty()),
       m_codePage(CharactersFor(options, m_windows.get(), m_desktop)),
-      m_debug(m_desktop.files, m_desktop.boxes, m_desktop.clock, m_desktop.locale, m_desktop.tcp,
-              m_codePage),
-      m_tools(m_options, m_debug, m_windows ? m_windows->Names() : m_desktop.shell),
+      m_tools(m_options, m_codePage, m_scrambler, m_windows ? m_windows->Names() : m_desktop.shell),
       m_values(ValuesOf(options.set)) {
   if (options.driveC.empty()) return;
   if (!fs::is_directory(PathOf(options.driveC)))
@@ -140,7 +138,7 @@ MenuDocument MenuFiles::ReadDefinitionFile(const std::string& path) {
 }
 
 void MenuFiles::WriteDefinitionFile(const MenuDocument& menu, const std::string& path) {
-  Write(path, WriteDefinition(menu, m_codePage, m_debug));
+  Write(path, WriteDefinition(menu, m_codePage, m_scrambler));
 }
 
 void MenuFiles::WriteText(const std::string& text, const std::string& path) {

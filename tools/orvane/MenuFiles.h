@@ -11,7 +11,6 @@
 #include "menudata/clsOrvaneDataTools.h"
 #include "menudoc/CheckMenu.h"
 #include "support/CodePage.h"
-#include "support/clsTrace.h"
 
 namespace CLI {
 class App;
@@ -65,7 +64,7 @@ class MenuFiles {
   memory::Desktop m_desktop;
   bool m_hasFiles;  // there are files to look for the menu's locations in
   CodePage m_codePage;
-  clsTrace m_debug;
+  Scrambler m_scrambler;
   clsOptions m_options;
   clsOrvaneDataTools m_tools;
   std::map<std::wstring, std::wstring> m_values;  // by lower-case name

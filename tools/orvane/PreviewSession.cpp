@@ -58,9 +58,8 @@ void CheckDefinition(memory::Desktop& desktop, const std::string& path) {
   const auto bytes = std::as_bytes(std::span(content));
   const CodePage codePage(desktop.system.AnsiCharacters());
   const clsOptions options;
-  clsTrace trace(desktop.files, desktop.boxes, desktop.clock, desktop.locale, desktop.tcp,
-                 codePage);
-  const clsOrvaneDataTools tools(options, trace, desktop.shell);
+  Scrambler scrambler;
+  const clsOrvaneDataTools tools(options, codePage, scrambler, desktop.shell);
   DefinitionFile file({bytes.begin(), bytes.end()}, codePage);
   try {
     ReadDefinition(file, tools);

@@ -13,17 +13,16 @@ namespace orvane {
 
 /// What the menu is for: the folder and the selected items, as the shell handed them over.
 struct Selection {
-  std::shared_ptr<DataObject> m_pDataObject;
-  std::int32_t m_lSelectionCount = 0;
-  std::wstring m_szSelectedItem;  // when exactly one item is selected
-  ItemIdList m_pidlFolder;
-  std::wstring CurrentFolder;  // empty for a virtual folder
-  std::wstring CurrentFile;    // the one selected item, when it is a file
+  std::shared_ptr<DataObject> dataObject;  // null without a selection
+  std::int32_t count = 0;
+  std::wstring onlyItem;  // when exactly one item is selected
+  std::wstring folder;    // empty for a virtual folder
+  std::wstring file;      // the one selected item, when it is a file
 
   /// Takes the folder (may be none) and the data object (may be null) in place of what was held.
   /// Returns 0 or the HRESULT with which the data object refused its files.
-  std::int32_t Capture(Shell& shell, FileReader& files, ItemIdList folder,
-                       std::shared_ptr<DataObject> dataObject);
+  std::int32_t Capture(Shell& shell, FileReader& files, const ItemIdList& folderId,
+                       std::shared_ptr<DataObject> data);
 };
 
 }  // namespace orvane
