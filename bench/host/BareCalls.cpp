@@ -95,24 +95,25 @@ class Pictures {
   Pictures(const Pictures&) = delete;
   Pictures& operator=(const Pictures&) = delete;
 
-  /// A menu bitmap in the menu's colour and once more at the size of a check mark.
-  void Load(int resource) {
+  /// A menu bitmap in the menu's colour; for a check mark also at that size.
+  void Load(int resource, bool checkMark) {
     COLORMAP map{RGB(255, 0, 255), GetSysColor(COLOR_MENU)};
     const HBITMAP normal =
         CreateMappedBitmap(GetModuleHandleW(L"orvane.dll"), resource, 0, &map, 1);
+    m_bitmaps.push_back(normal);
+    if (!checkMark) return;
     const HBITMAP scaled = Blank(16);
     const HGDIOBJ from = SelectObject(m_from, normal);
     const HGDIOBJ to = SelectObject(m_to, scaled);
     StretchBlt(m_to, 0, 0, 16, 16, m_from, 0, 0, 16, 16, SRCCOPY);
     SelectObject(m_from, from);
     SelectObject(m_to, to);
-    m_bitmaps.push_back(normal);
     m_bitmaps.push_back(scaled);
   }
 
-  /// The icon that files of the kind share, as two bitmaps like those above; several kinds may
-  /// share it again.
-  HBITMAP Fetch(const std::wstring& extension) {
+  /// The icon that files of the kind share, as a bitmap of each size; several kinds may share it
+  /// again. The last one.
+  HBITMAP Fetch(const std::wstring& extension, std::initializer_list<int> sizes) {
     SHFILEINFOW info{};
     const auto list = reinterpret_cast<HIMAGELIST>(
         SHGetFileInfoW((L"file" + extension).c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
@@ -120,7 +121,7 @@ class Pictures {
     HBITMAP& picture = m_icons[info.iIcon];
     if (picture) return picture;
     const HICON icon = ImageList_GetIcon(list, info.iIcon, ILD_NORMAL);
-    for (const int size : {16, 14}) {
+    for (const int size : sizes) {
       m_bitmaps.push_back(Blank(16));
       const HGDIOBJ to = SelectObject(m_to, m_bitmaps.back());
       const RECT area{0, 0, size, size};
@@ -163,8 +164,9 @@ void BareRightClick::operator()() const {
   ReadFileWhole(config);
   Pictures loaded;
   std::vector<HBITMAP> icons;
-  for (const int picture : pictures) loaded.Load(100 + picture);
-  for (const std::wstring& kind : kinds) icons.push_back(loaded.Fetch(kind));
+  // The root entry's, which Windows paints, is a check mark.
+  for (const int picture : pictures) loaded.Load(100 + picture, picture == 1);
+  for (const std::wstring& kind : kinds) icons.push_back(loaded.Fetch(kind, {16, 14}));
   const HMENU menu = CreatePopupMenu();
   const HMENU root = CreatePopupMenu();
   InsertMenuW(menu, 0, MF_BYPOSITION | MF_SEPARATOR, 0, nullptr);
@@ -227,7 +229,7 @@ void BarePainting(HDC context, const std::vector<std::wstring>& names,
     SelectObject(context, oldBrush);
     DeleteObject(pen);
     DeleteObject(brush);
-    const HGDIOBJ oldBitmap = SelectObject(memory, loaded.Fetch(kinds[i % kinds.size()]));
+    const HGDIOBJ oldBitmap = SelectObject(memory, loaded.Fetch(kinds[i % kinds.size()], {16}));
     BitBlt(context, 4, 2, 16, 16, memory, 0, 0, SRCCOPY);
     SelectObject(memory, oldBitmap);
     SelectObject(context, oldFont);

@@ -66,10 +66,8 @@ void OwnerDrawMenu::AddPicture(const MenuItem& item, Picture picture, MenuEntry&
     return;
   }
   shown = std::move(found);
-  const BitmapHandle scaled = PictureStore::CheckMark(shown);
-  const BitmapHandle full = PictureStore::Full(shown);
-  Log(L"ScaledBitmap=", Hex(scaled), L"  NormalBitmap=", Hex(full));
-  entry.bitmap = entry.ownerDraw ? full : scaled;
+  entry.bitmap = entry.ownerDraw ? PictureStore::Full(shown) : PictureStore::CheckMark(shown);
+  Log(L"ScaledBitmap=", Hex(shown->m_lData), L"  NormalBitmap=", Hex(shown->m_lData2));
   Log(L"Bitmap=", Hex(entry.bitmap));
 }
 

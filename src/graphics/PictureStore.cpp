@@ -1,5 +1,7 @@
 #include "graphics/PictureStore.h"
 
+#include <utility>
+
 #include "graphics/Bitmaps.h"
 #include "graphics/ColConst.h"
 #include "support/Trace.h"
@@ -11,11 +13,9 @@ constexpr std::int32_t FirstResource = 101;  // of Picture::Mark
 constexpr Colour MaskColour = Rgb(255, 0, 255);
 
 struct OwnedBitmaps : Object {
-  OwnedBitmaps(UniqueBitmap scaledOne, UniqueBitmap fullOne)
-      : scaled(std::move(scaledOne)), full(std::move(fullOne)) {}
-
-  UniqueBitmap scaled;
   UniqueBitmap full;
+  UniqueBitmap scaled;
+  std::function<UniqueBitmap(BitmapHandle full)> scale;  // none once it was called
 };
 
 /// The hidden surface on which icons are turned into bitmaps: a memory context that holds bitmaps
@@ -42,6 +42,13 @@ constexpr std::int32_t Key(Picture picture) {
   return static_cast<std::int32_t>(picture);
 }
 
+UniqueBitmap ConvertIcon(Gdi& gdi, IconHandle icon, std::int32_t size, std::int32_t flags) {
+  const PictureSurface surface(gdi);
+  Log(L"m_frmTemp.picTemp.hDC=", Hex(surface.get()));
+  return surface ? IconToBitmap(gdi, surface.get(), icon, ColConst::Menu, size, flags)
+                 : UniqueBitmap();
+}
+
 bool IsToFetch(const PictureStore::Node& picture) {
   return picture && picture->m_lKey == Key(Picture::OwnIcon);
 }
@@ -60,9 +67,9 @@ PictureStore::Node PictureStore::Load(Picture picture) {
   UniqueBitmap full =
       ReplaceBitmapColour(m_gdi, FirstResource + Key(picture) - 1, MaskColour, menuColour);
   if (!full) return {};
-  UniqueBitmap scaled = ScaleBMP(m_gdi, full.get());
-  Node node = Keep(Key(picture), std::move(scaled), std::move(full));
-  Log(L"Index=", node->Index, L"  Bitmap=", Hex(node->m_lData), L"  lBitmapKey=", Key(picture));
+  Node node = Keep(picture, std::move(full),
+                   [&gdi = m_gdi](BitmapHandle loaded) { return ScaleBMP(gdi, loaded); });
+  Log(L"Index=", node->Index, L"  Bitmap=", Hex(node->m_lData2), L"  lBitmapKey=", Key(picture));
   return node;
 }
 
@@ -79,23 +86,23 @@ PictureStore::Node PictureStore::Convert(const SystemIcon& icon, std::int32_t si
   Log(L"hImageList=", Hex(static_cast<std::int32_t>(icon.imageList)), L"  iIcon=", icon.index,
       L"  hIcon=", Hex(taken.get()));
   if (!taken) return {};
-  const PictureSurface surface(m_gdi);
-  Log(L"m_frmTemp.picTemp.hDC=", Hex(surface.get()));
-  if (!surface) return {};
-
-  UniqueBitmap full = IconToBitmap(m_gdi, surface.get(), taken.get(), ColConst::Menu, size, 0);
+  UniqueBitmap full = ConvertIcon(m_gdi, taken.get(), size, 0);
   Log(L"hBitmap=", Hex(full.get()));
   if (!full) return {};
-  UniqueBitmap scaled =
-      IconToBitmap(m_gdi, surface.get(), taken.get(), ColConst::Menu, size, SmallerIcon);
   Log(L"Adding to bitmap collection");
-  return Keep(Key(Picture::None), std::move(scaled), std::move(full));
+  return Keep(Picture::None, std::move(full),
+              [&gdi = m_gdi, &icons = m_icons, icon, size](BitmapHandle) {
+                const UniqueIcon again(icons, icons.Take(icon, size));
+                return again ? ConvertIcon(gdi, again.get(), size, SmallerIcon) : UniqueBitmap();
+              });
 }
 
-PictureStore::Node PictureStore::Keep(std::int32_t key, UniqueBitmap scaled, UniqueBitmap full) {
-  auto owner = std::make_shared<OwnedBitmaps>(std::move(scaled), std::move(full));
-  Node node = m_colBitmaps.Add({}, key);
-  node->m_lData = ToNumber(owner->scaled.get());
+PictureStore::Node PictureStore::Keep(Picture picture, UniqueBitmap full,
+                                      std::function<UniqueBitmap(BitmapHandle)> scale) {
+  auto owner = std::make_shared<OwnedBitmaps>();
+  owner->full = std::move(full);
+  owner->scale = std::move(scale);
+  Node node = m_colBitmaps.Add({}, Key(picture));
   node->m_lData2 = ToNumber(owner->full.get());
   node->m_oData = std::move(owner);
   return node;
@@ -119,7 +126,13 @@ BitmapHandle PictureStore::Full(const Node& picture) {
 }
 
 BitmapHandle PictureStore::CheckMark(const Node& picture) {
-  return picture ? ToHandle<BitmapHandle>(picture->m_lData) : BitmapHandle::None;
+  if (!picture) return BitmapHandle::None;
+  auto* const owner = static_cast<OwnedBitmaps*>(picture->m_oData.get());
+  if (owner && owner->scale) {
+    owner->scaled = std::exchange(owner->scale, {})(owner->full.get());
+    picture->m_lData = ToNumber(owner->scaled.get());
+  }
+  return ToHandle<BitmapHandle>(picture->m_lData);
 }
 
 }  // namespace orvane

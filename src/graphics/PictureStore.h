@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -43,7 +44,8 @@ class PictureStore {
   /// own file. Does nothing to other nodes.
   void Fetch(Node& picture, IconFile own, std::int32_t size);
 
-  // The picture at its full size and at that of a check mark; None for no node.
+  // The picture at its full size and at that of a check mark, which is made when it is first asked
+  // for: what paints its entries itself hardly needs any. None for no node.
   static BitmapHandle Full(const Node& picture);
   static BitmapHandle CheckMark(const Node& picture);
 
@@ -55,13 +57,13 @@ class PictureStore {
 
   Node Load(Picture picture);
   Node Convert(const SystemIcon& icon, std::int32_t size);
-  Node Keep(std::int32_t key, UniqueBitmap scaled, UniqueBitmap full);
+  Node Keep(Picture picture, UniqueBitmap full, std::function<UniqueBitmap(BitmapHandle)> scale);
 
   Gdi& m_gdi;
   ShellIcons& m_icons;
   IconFinder m_finder;
-  /// m_lData the scaled bitmap, m_lData2 the full one, both owned by m_oData; m_lKey the picture, 0
-  /// for an icon.
+  /// m_lData the scaled bitmap, 0 until it is made, m_lData2 the full one, both owned by m_oData;
+  /// m_lKey the picture, 0 for an icon.
   clsCollection m_colBitmaps;
   std::map<Picture, Node> m_pictures;  // none for one that could not be loaded
   std::map<IconKey, Node> m_converted;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "menudata/Arena.h"
 #include "menudata/clsCollection.h"
 #include "menudata/clsOrvaneData.h"
 #include "platform/Handles.h"
@@ -47,9 +48,15 @@ class Command {
 /// The items of one menu, by their place and by the identifiers of their entries.
 class CommandTable {
  public:
+  /// A record for an item to be added.
+  std::shared_ptr<clsOrvaneData> NewRecord() const { return m_arena.Make<clsOrvaneData>(); }
+
   /// An item that stands in no menu yet.
   Command Add(std::shared_ptr<clsOrvaneData> record) {
-    return Command(m_colMenuItems.Add({}, Command::NoId, std::move(record)));
+    auto node = m_arena.Make<clsCollection>();
+    node->m_lKey = Command::NoId;
+    node->m_oData = std::move(record);
+    return Command(m_colMenuItems.Append(std::move(node)));
   }
 
   /// Errors as of clsCollection::Item.
@@ -61,9 +68,13 @@ class CommandTable {
   }
 
   std::int32_t Count() const { return m_colMenuItems.Count(); }
-  void Clear() { m_colMenuItems.Clear(); }
+  void Clear() {
+    m_colMenuItems.Clear();
+    m_arena = {};
+  }
 
  private:
+  Arena m_arena;
   clsCollection m_colMenuItems;
 };
 

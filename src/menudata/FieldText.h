@@ -30,7 +30,9 @@ class FieldText {
     std::swap(m_block, other.m_block);
     return *this;
   }
-  ~FieldText() { ::operator delete(m_block); }
+  ~FieldText() {
+    if (m_block) ::operator delete(m_block);  // most are empty, and a call each is dear
+  }
 
   operator std::wstring_view() const {
     return m_block ? std::wstring_view(Characters(m_block), m_block->length) : std::wstring_view();

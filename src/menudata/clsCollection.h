@@ -65,6 +65,8 @@ class clsCollection : public Object {
   /// Appends a new node; the remaining fields are set on the node it returns.
   Node Add(FieldText szKey = {}, std::int32_t lKey = 0, std::shared_ptr<Object> oData = {},
            FieldText szData = {}, std::int32_t lData = 0);
+  /// Appends a node that is in no list.
+  Node Append(Node node);
   /// Appends a copy of `source`.
   Node AddEx(const clsCollection& source);
   /// A copy of this node in no list; its own list is not copied.
@@ -102,7 +104,6 @@ class clsCollection : public Object {
   struct List;
 
   List& OwnList();
-  Node Append(Node node);
   template <class Matches>
   Node First(Matches matches) const;
 

@@ -82,7 +82,7 @@ bool BuiltInMenu::OpenList(std::int32_t display, std::int32_t popupType, Target&
 bool BuiltInMenu::AddListEntries(const clsMRU& list, const Target& target) {
   for (std::int32_t i = 1; i <= list.FileCount(); ++i) {
     if (!m_writer.CanInsert()) return false;
-    auto record = std::make_shared<clsOrvaneData>();
+    auto record = m_state.commands.NewRecord();
     m_globals.tools.BreakdownHistoryMRU(list.File(i), *record);
     MenuItem item;
     item.caption = L"&" + std::to_wstring(i) + L" " + clsMRU::GetShortenedName(record->Caption());

@@ -68,7 +68,7 @@ bool DefinitionMenu::ReadFile(DefinitionFile& file) {
 
 bool DefinitionMenu::ReadItems(DefinitionFile& file, std::int32_t count) {
   for (std::int32_t i = 1; i <= count; ++i) {
-    auto record = std::make_shared<clsOrvaneData>();
+    auto record = m_state.commands.NewRecord();
     const Command command = m_state.commands.Add(record);
     Log(L"Index=", command.Index());
     std::int32_t parentIndex = 0;
@@ -142,7 +142,7 @@ bool DefinitionMenu::AddItem(Command command, MenuHandle menu) {
 
 void DefinitionMenu::AddPlaceholders() {
   if (!m_writer.CanInsert()) return;
-  auto record = std::make_shared<clsOrvaneData>();
+  auto record = m_state.commands.NewRecord();
   record->m_lType = clsOrvaneData::TypeDynamicFolderEmpty;
   m_state.emptyId = m_state.ids.Take();
   m_state.commands.Add(std::move(record)).Id(m_state.emptyId);

@@ -75,7 +75,7 @@ void DynamicFolders::SayWhatIsThere(DynamicMenus::Entry entry, bool answered) {
 bool DynamicFolders::TakeNoAnswerId() {
   if (m_state.noAnswerId != 0) return true;
   if (!m_writer.CanInsert()) return false;
-  auto record = std::make_shared<clsOrvaneData>();
+  auto record = m_state.commands.NewRecord();
   record->m_lType = clsOrvaneData::TypeDynamicFolderNoAnswer;
   m_state.noAnswerId = m_state.ids.Take();
   m_state.commands.Add(std::move(record)).Id(m_state.noAnswerId);
@@ -107,7 +107,7 @@ bool DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
       return true;
     }
 
-    auto record = std::make_shared<clsOrvaneData>();
+    auto record = m_state.commands.NewRecord();
     record->m_lType = isFolder ? clsOrvaneData::TypeDynamicFolder : clsOrvaneData::TypeFile;
     record->Location(path + found.name);
     record->Caption(clsOrvaneDataTools::TrimCaption(found.name, maximum));

@@ -23,7 +23,7 @@ bool MenuWriter::Insert(const Target& target, MenuItem item) {
 
 bool MenuWriter::InsertBuiltIn(const Target& target, std::int32_t type, Picture picture,
                                UniqueMenu submenu) {
-  auto record = std::make_shared<clsOrvaneData>();
+  auto record = m_state.commands.NewRecord();
   record->m_lType = type;
   MenuItem item;
   item.caption = Caption(*record);
