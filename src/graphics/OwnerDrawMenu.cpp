@@ -74,7 +74,7 @@ void OwnerDrawMenu::AddPicture(const MenuItem& item, Picture picture, MenuEntry&
 PictureStore::Node OwnerDrawMenu::FindIcon(const MenuItem& item) {
   IconFile file = IconFileOf(item.command);
   if (item.iconFile) file.path = *item.iconFile;
-  return m_pictures.FindIcon(file, m_painter.PictureSize());
+  return m_pictures.FindIcon(file, m_painter.PictureSize(), true);
 }
 
 }  // namespace orvane

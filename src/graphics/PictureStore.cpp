@@ -73,15 +73,16 @@ PictureStore::Node PictureStore::Load(Picture picture) {
   return node;
 }
 
-PictureStore::Node PictureStore::FindIcon(const IconFile& file, std::int32_t size) {
+PictureStore::Node PictureStore::FindIcon(const IconFile& file, std::int32_t size, bool checkMark) {
   const std::optional<SystemIcon> icon = m_finder.Find(file);
   if (!icon) return Find(Picture::UnknownFile);
   const auto [place, isNew] = m_converted.try_emplace({icon->imageList, icon->index});
-  if (isNew) place->second = Convert(*icon, size);
+  if (isNew) place->second = Convert(*icon, size, checkMark);
   return place->second ? place->second : Find(Picture::UnknownFile);
 }
 
-PictureStore::Node PictureStore::Convert(const SystemIcon& icon, std::int32_t size) {
+PictureStore::Node PictureStore::Convert(const SystemIcon& icon, std::int32_t size,
+                                         bool checkMark) {
   const UniqueIcon taken(m_icons, m_icons.Take(icon, size));
   Log(L"hImageList=", Hex(static_cast<std::int32_t>(icon.imageList)), L"  iIcon=", icon.index,
       L"  hIcon=", Hex(taken.get()));
@@ -90,11 +91,13 @@ PictureStore::Node PictureStore::Convert(const SystemIcon& icon, std::int32_t si
   Log(L"hBitmap=", Hex(full.get()));
   if (!full) return {};
   Log(L"Adding to bitmap collection");
-  return Keep(Picture::None, std::move(full),
-              [&gdi = m_gdi, &icons = m_icons, icon, size](BitmapHandle) {
-                const UniqueIcon again(icons, icons.Take(icon, size));
-                return again ? ConvertIcon(gdi, again.get(), size, SmallerIcon) : UniqueBitmap();
-              });
+  Node node = Keep(
+      Picture::None, std::move(full), [&gdi = m_gdi, &icons = m_icons, icon, size](BitmapHandle) {
+        const UniqueIcon again(icons, icons.Take(icon, size));
+        return again ? ConvertIcon(gdi, again.get(), size, SmallerIcon) : UniqueBitmap();
+      });
+  if (checkMark) SetCheckMark(*node, ConvertIcon(m_gdi, taken.get(), size, SmallerIcon));
+  return node;
 }
 
 PictureStore::Node PictureStore::Keep(Picture picture, UniqueBitmap full,
@@ -128,11 +131,15 @@ BitmapHandle PictureStore::Full(const Node& picture) {
 BitmapHandle PictureStore::CheckMark(const Node& picture) {
   if (!picture) return BitmapHandle::None;
   auto* const owner = static_cast<OwnedBitmaps*>(picture->m_oData.get());
-  if (owner && owner->scale) {
-    owner->scaled = std::exchange(owner->scale, {})(owner->full.get());
-    picture->m_lData = ToNumber(owner->scaled.get());
-  }
+  if (owner && owner->scale) SetCheckMark(*picture, owner->scale(owner->full.get()));
   return ToHandle<BitmapHandle>(picture->m_lData);
+}
+
+void PictureStore::SetCheckMark(clsCollection& picture, UniqueBitmap scaled) {
+  auto& owner = static_cast<OwnedBitmaps&>(*picture.m_oData);
+  owner.scaled = std::move(scaled);
+  owner.scale = {};
+  picture.m_lData = ToNumber(owner.scaled.get());
 }
 
 }  // namespace orvane

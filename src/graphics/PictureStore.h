@@ -31,8 +31,9 @@ class PictureStore {
   /// loaded, or is no bitmap of the module.
   Node Find(Picture picture);
 
-  /// The file's icon at `size` pixels; the bitmap for unknown files when there is none.
-  Node FindIcon(const IconFile& file, std::int32_t size);
+  /// The file's icon at `size` pixels; the bitmap for unknown files when there is none. With
+  /// `checkMark` its check mark comes from the same look at the icon.
+  Node FindIcon(const IconFile& file, std::int32_t size, bool checkMark = false);
 
   /// Stands for the icon of an item's own file, which nobody has seen yet. One serves all: a menu
   /// may have thousands.
@@ -56,8 +57,9 @@ class PictureStore {
   using IconKey = std::pair<std::uintptr_t, std::int32_t>;  // image list, index
 
   Node Load(Picture picture);
-  Node Convert(const SystemIcon& icon, std::int32_t size);
+  Node Convert(const SystemIcon& icon, std::int32_t size, bool checkMark);
   Node Keep(Picture picture, UniqueBitmap full, std::function<UniqueBitmap(BitmapHandle)> scale);
+  static void SetCheckMark(clsCollection& picture, UniqueBitmap scaled);
 
   Gdi& m_gdi;
   ShellIcons& m_icons;
