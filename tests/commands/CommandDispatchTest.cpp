@@ -295,25 +295,5 @@ TEST_F(Dispatch, LogOfAnInvocation) {
   }
 }
 
-TEST_F(Dispatch, EveryFailingCallIsSurvived) {
-  Select({L"C:\\Work", L"C:\\My Work"});
-  for (std::int32_t type = 0; type < 1016; type = type == 10 ? 1000 : type + 1) {
-    for (std::size_t n = 1; n < 200; ++n) {
-      items.Clear();
-      const auto item = Add(type, L"C:\\Work");
-      item->m_lSelection_Options = Data::SelectionOptions_Clipboard;
-      item->m_szSelection_File = L"C:\\Work\\list.txt";
-      item->m_szSelection_Command = L"C:\\x.exe";
-      desktop.answers = memory::Answers();
-      desktop.answers.Add(L"C:\\My Work");
-      Hold(n % 2 != 0, n % 3 != 0);
-      desktop.faults.FailCall(n);
-      Invoke(0);
-      EXPECT_TRUE(result == 0 || type == Data::TypeCopyFilenamesToClipboard) << type << " " << n;
-      if (desktop.faults.Calls() < n) break;
-    }
-  }
-}
-
 }  // namespace
 }  // namespace orvane::test

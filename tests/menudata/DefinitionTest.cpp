@@ -47,7 +47,7 @@ TEST(DefinitionFile, RefusesRecordsThatBreakTheLayout) {
       {8}, {8, 0, 1}, {8, 0, 2, 0, 65}, {3, 0, 1, 0, 65}, {8, 1, 1, 0, 65}};
   for (const auto& record : records) {
     DefinitionFile file = world.File(Bytes(record));
-    EXPECT_EQ(World::ErrorOf([&] { file.Next(); }), CorruptFile::ErrorNumber) << record.size();
+    EXPECT_EQ(test::ErrorOf([&] { file.Next(); }), CorruptFile::ErrorNumber) << record.size();
   }
 }
 
@@ -64,7 +64,7 @@ TEST(clsOrvaneDataTools, Headers) {
     DefinitionFile file = world.File(world.Records({text}));
     clsFileHeader header{97, 98, 99};
     bool isRead = false;
-    const auto error = World::ErrorOf([&] { isRead = world.tools.File_ReadHeader(file, header); });
+    const auto error = test::ErrorOf([&] { isRead = world.tools.File_ReadHeader(file, header); });
     return Outcome(error, isRead, {header.HeaderValue1, header.ItemCount, header.HeaderValue3});
   };
   EXPECT_EQ(read(L"0,3"), " 0 3 99");
@@ -85,7 +85,7 @@ TEST(clsOrvaneDataTools, ItemHeaders) {
     item.m_lOptions = 99;
     bool isRead = false;
     const auto error =
-        World::ErrorOf([&] { isRead = world.tools.File_ReadItemHeader(file, parent, item); });
+        test::ErrorOf([&] { isRead = world.tools.File_ReadItemHeader(file, parent, item); });
     return Outcome(error, isRead, {parent, item.m_lType, item.m_lOptions});
   };
   EXPECT_EQ(read(L"-1,2147483647,0"), " -1 2147483647 0");

@@ -39,7 +39,7 @@ TEST(clsOrvaneData, SpecialFolderNumberIsTheLocationAsText) {
   };
   EXPECT_EQ(number(L"   "), 0);
   EXPECT_EQ(number(L" 5 "), 5);
-  EXPECT_EQ(World::ErrorOf([&] { number(L"C:\\Work"); }), 13);
+  EXPECT_EQ(test::ErrorOf([&] { number(L"C:\\Work"); }), 13);
 }
 
 TEST(FieldText, BehavesAsATextOfAnyContent) {

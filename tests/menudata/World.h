@@ -12,6 +12,7 @@
 #include "menudata/clsOptions.h"
 #include "menudata/clsOrvaneDataTools.h"
 #include "support/CodePage.h"
+#include "support/ErrorOf.h"
 #include "support/ThreadState.h"
 #include "support/clsTrace.h"
 
@@ -66,17 +67,6 @@ struct World {
       file.insert(file.end(), bytes.begin(), bytes.end());
     }
     return file;
-  }
-
-  /// The number of the error that an action ends in; 0 for none.
-  template <class Action>
-  static std::int32_t ErrorOf(Action action) {
-    try {
-      action();
-    } catch (const Error& error) {
-      return error.Number();
-    }
-    return 0;
   }
 
   memory::Desktop desktop;

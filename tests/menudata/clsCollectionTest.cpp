@@ -15,8 +15,6 @@
 namespace orvane {
 namespace {
 
-using test::World;
-
 TEST(clsCollection, KeepsItsNodesNumberedFromOne) {
   clsCollection list;
   const auto a = list.Add(L"a");
@@ -27,11 +25,11 @@ TEST(clsCollection, KeepsItsNodesNumberedFromOne) {
   EXPECT_EQ((std::vector{a->Index, c->Index, list.Count()}), (std::vector{1, 2, 2}));
   EXPECT_EQ(list.Item(2), c);
 
-  EXPECT_EQ(World::ErrorOf([&] { list.Item(3, true); }), 5);
+  EXPECT_EQ(test::ErrorOf([&] { list.Item(3, true); }), 5);
   EXPECT_EQ(list.Item(3, false), nullptr);
-  EXPECT_EQ(World::ErrorOf([&] { list.Remove(3); }), 5);
-  EXPECT_EQ(World::ErrorOf([&] { list.Remove(3, false); }), 0);
-  EXPECT_EQ(World::ErrorOf([&] { list.Item(0, false); }), 9);
+  EXPECT_EQ(test::ErrorOf([&] { list.Remove(3); }), 5);
+  EXPECT_EQ(test::ErrorOf([&] { list.Remove(3, false); }), 0);
+  EXPECT_EQ(test::ErrorOf([&] { list.Item(0, false); }), 9);
   list.Clear();
   EXPECT_EQ(list.begin(), list.end());
   EXPECT_EQ(list.Add()->Index, 1);
@@ -165,7 +163,7 @@ TEST(clsCollection, SortsInTheOrderOfTheExchangesTiesIncluded) {
     ASSERT_EQ(list.Sort_Bubble(L"m_lKey"), ExchangeSort(numbers)) << "round " << round;
   }
   for (const wchar_t* name : {L"m_oData", L"m_szkey", L""})
-    EXPECT_EQ(World::ErrorOf([&] { clsCollection().Sort_Bubble(name); }), 5) << name;
+    EXPECT_EQ(test::ErrorOf([&] { clsCollection().Sort_Bubble(name); }), 5) << name;
 }
 
 }  // namespace

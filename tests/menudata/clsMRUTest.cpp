@@ -11,8 +11,6 @@
 namespace orvane {
 namespace {
 
-using test::World;
-
 const std::wstring Key = L"Software\\Tarnwick\\Orvane\\ContextMenu\\HistoryMRU\\";
 constexpr Hive User = Hive::CurrentUser;
 using Texts = std::vector<std::wstring>;
@@ -60,7 +58,7 @@ TEST_F(MruTest, AddFileMovesToTheTop) {
 TEST_F(MruTest, ASmallerMaximumKeepsWhatFits) {
   Fill(3, {L"a", L"b", L"c"});
   list.MaxFileCount(2);
-  EXPECT_EQ(World::ErrorOf([&] { list.File(3); }), 9);
+  EXPECT_EQ(test::ErrorOf([&] { list.File(3); }), 9);
   list.AddFile(L"d");
   EXPECT_EQ((Texts{list.File(1), list.File(2)}), (Texts{L"d", L"a"}));
   EXPECT_TRUE(list.Save());

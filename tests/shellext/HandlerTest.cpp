@@ -150,35 +150,5 @@ TEST(Handler, AsksAgainUntilToldNotToWhenTheLogCannotBeOpened) {
   EXPECT_EQ(click.Boxes().size(), 3u);
 }
 
-/// A right-click through everything; the platform calls it made.
-std::size_t ClickThrough(std::size_t failingCall) {
-  RightClick click;
-  click.Set(L"ShellShowHistoryMRU", 2);
-  click.Set(L"ShellShowQuickAccessMRU", 1);
-  click.Set(L"ShellShowFlags", 254);
-  click.Set(L"ShellShowIcons", 3);
-  click.Set(L"ShellOwnerDraw", 1);
-  click.Remember(L"HistoryMRU", {Item(Data::TypeFile, L"a", L"C:\\a.txt")});
-  const std::int32_t popup = click.Add(Item(Data::TypePopupMenu, L"Popup"));
-  click.Add(Item(Data::TypeFile, L"a", L"C:\\a.txt"), popup);
-  click.Add(Item(Data::TypeFolder, L"Documents", L"5", Data::OptionsCSIDL), popup);
-  click.Add(Item(Data::TypeDynamicFolder, L"Dynamic", L"C:\\Work"), popup);
-  click.desktop.files.AddFile(L"C:\\a.txt");
-  click.desktop.files.AddFile(L"C:\\Work\\Sub\\b.txt");
-  click.desktop.faults.FailCall(failingCall);
-  click.Click(L"C:\\", {L"C:\\a.txt"});
-  click.Open(L"Dynamic");
-  return click.desktop.faults.Calls();
-}
-
-TEST(Handler, LeaksNothingWhicheverCallFails) {
-  const std::size_t calls = ClickThrough(0);
-  EXPECT_GT(calls, 50u);
-  for (std::size_t n = 1; n <= calls; ++n) {
-    SCOPED_TRACE(n);
-    ClickThrough(n);
-  }
-}
-
 }  // namespace
 }  // namespace orvane::test

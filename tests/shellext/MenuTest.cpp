@@ -1,6 +1,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "shellext/CaptionSearch.h"
 #include "shellext/RightClick.h"
 
 namespace orvane::test {
@@ -210,6 +211,7 @@ TEST(Menu, ASecondHandlerAddsNoSecondRootAndASecondQueryStartsOver) {
   click.shellMenu = MenuHandle::None;
   EXPECT_EQ(click.Query(), count);
   EXPECT_EQ(click.Menu(), menu);
+  EXPECT_EQ(click.handler->State().dynamicMenus.Count(), 1);
 }
 
 TEST(Menu, RefusesSpoiltDefinitionFiles) {
@@ -246,16 +248,18 @@ TEST(Menu, SurvivesADefinitionFileCutAnywhere) {
 }
 
 TEST(Menu, RefusesParentsThatCannotHoldEntries) {
+  const std::wstring file = L"a\n--------\n&Designer...\n";
   const struct {
-    std::int32_t parent;
-    const wchar_t* submenu;
-  } rows[] = {{2, L"a\n--------\n&Designer...\n"},  // a file, which shows nothing
-              {3, L"a\n--------\n&Designer...\n"},  // itself
-              {4, L""},
-              {-1, L""}};
-  for (const auto& [parent, submenu] : rows) {
+    std::int32_t type, parent;
+    std::wstring submenu;
+  } rows[] = {{Data::TypeFile, 2, file},
+              {Data::TypeDynamicFolder, 2, L"a >\n  (Empty) (disabled)\n--------\n&Designer...\n"},
+              {Data::TypeFile, 3, file},  // itself
+              {Data::TypeFile, 4, L""},
+              {Data::TypeFile, -1, L""}};
+  for (const auto& [type, parent, submenu] : rows) {
     RightClick click;
-    click.Add(Item(Data::TypeFile, L"a", L"C:\\a"));
+    click.Add(Item(type, L"a", L"C:\\a"));
     click.Add(Item(Data::TypeFile, L"b", L"C:\\b"), parent);
     click.Click();
     EXPECT_EQ(memory::MenuText(click.desktop.menus, click.Submenu(L"Orvane")), submenu) << parent;
@@ -269,6 +273,7 @@ TEST(Menu, NestsAThousandPopups) {
   click.Add(Item(Data::TypeFile, L"deep", L"C:\\a"), parent);
   EXPECT_EQ(click.Click(), 1 + 1000 + 1 + 1 + 1);
   EXPECT_TRUE(click.Shows(L"deep"));
+  EXPECT_FALSE(IsCaptionInMenu(click.desktop.menus, L"deep", click.shellMenu, 0)) << "too deep";
 }
 
 TEST(Menu, KeepsLongCaptionsAndThoseWithAZero) {

@@ -49,6 +49,9 @@ class RightClick {
     End();
     EXPECT_EQ(desktop.menus.LiveCount(), 0u);
     EXPECT_EQ(desktop.gdi.Live(), 0u);
+    EXPECT_EQ(desktop.gdi.Mistakes(), std::vector<std::string>());
+    EXPECT_EQ(desktop.icons.Live(), 0u);
+    EXPECT_FALSE(desktop.icons.wronglyFreed);
   }
 
   void Set(const std::wstring& name, std::uint32_t number) {
@@ -169,6 +172,7 @@ class RightClick {
   /// of the debug log has no node, and the placeholders share theirs.
   void Verify(MenuHandle menu, std::set<std::uint32_t>& seen) {
     const HandlerState& state = handler->State();
+    EXPECT_FALSE(state.commands.Find(Command::NoId)) << "what stands in no menu";
     for (const MenuEntry& entry : desktop.menus.Entries(menu)) {
       if (entry.submenu != MenuHandle::None) Verify(entry.submenu, seen);
       const auto id = static_cast<std::int32_t>(entry.id);
@@ -177,6 +181,9 @@ class RightClick {
       EXPECT_GE(id, state.ids.First());
       EXPECT_LE(id, state.ids.Last());
       EXPECT_TRUE(state.commands.Find(id)) << id;
+      EXPECT_TRUE(handler->IsLent(id - state.ids.First()) ||
+                  globals->options.m_bShellIgnoreBoundsCheck)
+          << id;
       EXPECT_TRUE(seen.insert(entry.id).second || id == state.emptyId) << id;
     }
   }

@@ -19,7 +19,7 @@ class WholeClick : public RightClick {
     Set(L"ShellOwnerDraw", 1);
     Set(L"DebugEnableInMenu", 1);
     desktop.files.AddFile(Note, "note");
-    desktop.files.AddFile(L"C:\\Work\\Sub\\Deep.txt", "deep");
+    desktop.files.AddFile(L"C:\\Work\\Sub\\Deep.exe", "deep");  // with an icon of its own
     desktop.files.AddFile(L"C:\\Program Files\\Orvane\\designer.exe", "");
     desktop.files.AddFolder(L"D:\\Target");
     AddOfEveryKind();
@@ -80,7 +80,8 @@ class WholeClick : public RightClick {
     for (const MenuEntry& entry : entries) {
       const auto id = static_cast<std::int32_t>(entry.id);
       handler->Menu().Measure(id);
-      handler->Menu().Draw({id, 0, context.get(), {0, 0, 60, 20}});
+      const std::uint32_t state = id % 2 == 0 ? DrawItem::Selected : 0;
+      handler->Menu().Draw({id, state, context.get(), {0, 0, 60, 20}});
     }
   }
 
