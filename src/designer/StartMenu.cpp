@@ -1,7 +1,6 @@
 #include "designer/StartMenu.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "menudata/ShellPaths.h"
 #include "support/Text.h"
@@ -74,11 +73,14 @@ std::vector<StartProgram> StartMenuPrograms(const Platform& platform) {
 std::vector<StartProgram> WithWords(const std::vector<StartProgram>& programs,
                                     const std::wstring& words) {
   std::vector<StartProgram> left = programs;
-  std::wistringstream wanted(LowerCase(words));
-  for (std::wstring word; wanted >> word;)
+  std::wstring_view rest = words;
+  while (!(rest = Trim(rest)).empty()) {
+    const std::wstring word = LowerCase(rest.substr(0, rest.find(L' ')));
+    rest.remove_prefix(word.size());
     std::erase_if(left, [&](const StartProgram& program) {
       return LowerCase(program.Text()).find(word) == std::wstring::npos;
     });
+  }
   return left;
 }
 

@@ -7,6 +7,8 @@
 namespace orvane::designerapp {
 namespace {
 
+constexpr const char* Opening = "GetOpenFileNameW";
+constexpr const char* Saving = "GetSaveFileNameW";
 constexpr DWORD RoomForNames = 65536;  // characters, of many names in one folder
 
 const wchar_t* FilterOf(Files kind) {
@@ -43,6 +45,15 @@ std::wstring BufferFor(const std::wstring& start) {
   return name;
 }
 
+/// Of the library that has the dialogs, loaded when one is asked for: it would take a good part of
+/// the designer's start.
+bool IsAnswered(const char* dialog, OPENFILENAMEW& request) {
+  const HMODULE library = LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  const auto show = reinterpret_cast<BOOL(WINAPI*)(OPENFILENAMEW*)>(
+      reinterpret_cast<void*>(library ? GetProcAddress(library, dialog) : nullptr));
+  return show && show(&request);
+}
+
 std::wstring UpToZero(const std::wstring& text) {
   return text.substr(0, text.find(L'\0'));
 }
@@ -53,14 +64,14 @@ std::wstring AskFile(HWND owner, Files kind, const std::wstring& start) {
   std::wstring name = BufferFor(start);
   OPENFILENAMEW request = Request(owner, kind, name);
   request.Flags |= OFN_FILEMUSTEXIST;
-  return GetOpenFileNameW(&request) ? UpToZero(name) : std::wstring();
+  return IsAnswered(Opening, request) ? UpToZero(name) : std::wstring();
 }
 
 std::vector<std::wstring> AskFiles(HWND owner) {
   std::wstring name = BufferFor({});
   OPENFILENAMEW request = Request(owner, Files::Any, name);
   request.Flags |= OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT;
-  if (!GetOpenFileNameW(&request)) return {};
+  if (!IsAnswered(Opening, request)) return {};
   std::vector<std::wstring> parts;  // the folder and the names in it, or one whole path
   for (const wchar_t* part = name.c_str(); *part; part += parts.back().size() + 1)
     parts.emplace_back(part);
@@ -74,7 +85,7 @@ std::wstring AskNewFile(HWND owner, Files kind, const std::wstring& start) {
   std::wstring name = BufferFor(start);
   OPENFILENAMEW request = Request(owner, kind, name);
   request.Flags |= OFN_OVERWRITEPROMPT;
-  return GetSaveFileNameW(&request) ? UpToZero(name) : std::wstring();
+  return IsAnswered(Saving, request) ? UpToZero(name) : std::wstring();
 }
 
 std::wstring AskFolder(HWND owner, const std::wstring& start) {

@@ -1,6 +1,6 @@
 #include "designerapp/ItemPictures.h"
 
-#include <shellapi.h>
+#include "win32/NativeHandles.h"
 
 namespace orvane::designerapp {
 namespace {
@@ -31,8 +31,9 @@ int BitmapOf(const clsOrvaneData& item) {
 
 }  // namespace
 
-ItemPictures::ItemPictures(FileReader& files, int size)
-    : m_files(files),
+ItemPictures::ItemPictures(const Platform& platform, int size)
+    : m_icons(platform.icons),
+      m_finder(platform.icons, platform.files),
       m_size(size),
       m_list(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 16, 64)) {}
 
@@ -49,26 +50,27 @@ int ItemPictures::Add(const clsOrvaneData& item) {
   const bool isFolder = item.IsTypeFolder() || item.IsTypeDynamicFolder() || item.IsTypeCopyToX();
   if (item.OptionsIsCSIDL()) return AddBitmap(OwnFolder);
   if (!isFolder && !item.IsTypeFile()) return AddBitmap(BitmapOf(item));
-  const int icon = AddIcon(std::wstring(item.Location()), isFolder);
-  return icon >= 0 ? icon : AddBitmap(UnknownFile);
+  const auto icon = m_finder.Find({std::wstring(item.Location()), isFolder});
+  const int place = icon ? AddIcon(*icon) : I_IMAGENONE;
+  return place >= 0 ? place : AddBitmap(UnknownFile);
 }
 
 int ItemPictures::AddBitmap(int resource) {
+  const auto [known, isNew] = m_taken.try_emplace(-resource, I_IMAGENONE);
+  if (!isNew) return known->second;
   const UniqueBitmap bitmap(static_cast<HBITMAP>(
       LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(FirstBitmap + resource), IMAGE_BITMAP,
                  m_size, m_size, LR_DEFAULTCOLOR)));
-  return bitmap ? ImageList_AddMasked(m_list.get(), bitmap.get(), RGB(255, 0, 255)) : I_IMAGENONE;
+  if (bitmap) known->second = ImageList_AddMasked(m_list.get(), bitmap.get(), RGB(255, 0, 255));
+  return known->second;
 }
 
-/// By its kind alone when it is not here or lies on another machine.
-int ItemPictures::AddIcon(const std::wstring& path, bool isFolder) {
-  const bool look = !m_files.LiesOnNetwork(path) && m_files.Attributes(path).has_value();
-  SHFILEINFOW info{};
-  SHGetFileInfoW(path.c_str(), isFolder ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_NORMAL, &info,
-                 sizeof info,
-                 SHGFI_ICON | SHGFI_SMALLICON | (look ? 0U : UINT{SHGFI_USEFILEATTRIBUTES}));
-  const UniqueIcon icon(info.hIcon);
-  return icon ? ImageList_ReplaceIcon(m_list.get(), -1, icon.get()) : I_IMAGENONE;
+int ItemPictures::AddIcon(const SystemIcon& icon) {
+  const auto [known, isNew] = m_taken.try_emplace(icon.index, I_IMAGENONE);
+  if (!isNew) return known->second;
+  const UniqueIcon copy(win32::ToNative<HICON>(m_icons.Take(icon, m_size)));
+  if (copy) known->second = ImageList_ReplaceIcon(m_list.get(), -1, copy.get());
+  return known->second;
 }
 
 }  // namespace orvane::designerapp

@@ -23,6 +23,15 @@ std::wstring Wide(std::string_view text) {
   return FromUtf8(text).value_or(std::wstring());
 }
 
+TTTOOLINFOW TipOf(HWND control) {
+  TTTOOLINFOW tip{};
+  tip.cbSize = sizeof tip;
+  tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tip.hwnd = GetParent(control);
+  tip.uId = reinterpret_cast<UINT_PTR>(control);
+  return tip;
+}
+
 bool CanBrowse(FieldUse use) {
   return use == FieldUse::Folder || use == FieldUse::File || use == FieldUse::Program;
 }
@@ -63,7 +72,11 @@ void PropertyPane::Show(MenuItem* item) {
 void PropertyPane::Clear() {
   m_rows.clear();
   m_kind = m_task = nullptr;
-  while (const HWND child = GetWindow(Handle(), GW_CHILD)) DestroyWindow(child);
+  while (const HWND child = GetWindow(Handle(), GW_CHILD)) {
+    TTTOOLINFOW tip = TipOf(child);  // it would outlive the control
+    SendMessageW(m_tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
+    DestroyWindow(child);
+  }
 }
 
 void PropertyPane::MakeRows() {
@@ -96,13 +109,9 @@ HWND PropertyPane::Make(const wchar_t* className, const std::wstring& text, DWOR
 
 void PropertyPane::AddTip(HWND control, std::string_view meaning) {
   std::wstring text = Wide(meaning);
-  TTTOOLINFOW tool{};
-  tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = Handle();
-  tool.uId = reinterpret_cast<UINT_PTR>(control);
-  tool.lpszText = text.data();
-  SendMessageW(m_tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  TTTOOLINFOW tip = TipOf(control);
+  tip.lpszText = text.data();
+  SendMessageW(m_tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
 }
 
 void PropertyPane::AddText(const ItemField& field) {

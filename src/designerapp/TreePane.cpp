@@ -47,7 +47,7 @@ void TreePane::Create(HWND parent) {
 }
 
 void TreePane::Resolution(UINT dpi) {
-  ItemPictures pictures(m_program.platform.files, Scaled(16, dpi));
+  ItemPictures pictures(m_program.platform, Scaled(16, dpi));
   TreeView_SetImageList(m_tree, pictures.List(), TVSIL_NORMAL);
   m_pictures.reset();
   m_pictures.emplace(std::move(pictures));

@@ -84,7 +84,10 @@ keys Down Right
 shot preview
 keys Escape Escape Escape
 keys alt+F4
-sleep 1
+for _ in $(seq 50); do
+  xdotool search --onlyvisible --name 'Orvane Designer' >/dev/null 2>&1 || break
+  sleep 0.1
+done
 
 right_click Escape
 grep -A40 'Orvane' "$work/host.txt" >"$work/menu.txt" || true

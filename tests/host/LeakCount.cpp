@@ -33,14 +33,14 @@ std::size_t HighestUserHandle() {
   return highest;
 }
 
-std::size_t CountHeapBlocks() {
+std::size_t CountHeapBlocks(std::size_t ignoredSize) {
   HANDLE heaps[64];
   const DWORD count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
   std::size_t blocks = 0;
   for (DWORD i = 0; i < count; ++i) {
     PROCESS_HEAP_ENTRY entry{};
     while (HeapWalk(heaps[i], &entry)) {
-      if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) ++blocks;
+      if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) && entry.cbData != ignoredSize) ++blocks;
     }
   }
   return blocks;
@@ -65,9 +65,9 @@ std::size_t FirstFreeThreadSlot() {
 
 }  // namespace
 
-LeakCount LeakCount::Now() {
-  return {CountGdiObjects(), HighestUserHandle(), HighestKernelHandle(), CountHeapBlocks(),
-          FirstFreeThreadSlot()};
+LeakCount LeakCount::Now(std::size_t ignoredBlockSize) {
+  return {CountGdiObjects(), HighestUserHandle(), HighestKernelHandle(),
+          CountHeapBlocks(ignoredBlockSize), FirstFreeThreadSlot()};
 }
 
 }  // namespace orvane::host

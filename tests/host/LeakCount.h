@@ -13,7 +13,8 @@ struct LeakCount {
   std::size_t heapBlocks = 0;     // exact, over all heaps: COM's task memory comes from one of them
   std::size_t threadSlots = 0;    // the first free one
 
-  static LeakCount Now();
+  /// Heap blocks of just that size do not count.
+  static LeakCount Now(std::size_t ignoredBlockSize = 0);
   bool operator==(const LeakCount&) const = default;
 };
 
