@@ -29,6 +29,11 @@ int BitmapOf(const clsOrvaneData& item) {
   }
 }
 
+bool HasIcon(const clsOrvaneData& item) {
+  return !item.OptionsIsCSIDL() && (item.IsTypeFile() || item.IsTypeFolder() ||
+                                    item.IsTypeDynamicFolder() || item.IsTypeCopyToX());
+}
+
 }  // namespace
 
 ItemPictures::ItemPictures(const Platform& platform, int size)
@@ -37,8 +42,9 @@ ItemPictures::ItemPictures(const Platform& platform, int size)
       m_size(size),
       m_list(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 16, 64)) {}
 
-int ItemPictures::IndexOf(const clsOrvaneData& item) {
+int ItemPictures::IndexOf(const clsOrvaneData& item, bool withIcons) {
   if (item.IsTypeSeparator()) return I_IMAGENONE;
+  if (!withIcons && HasIcon(item)) return AddBitmap(item.IsTypeFile() ? UnknownFile : OwnFolder);
   const std::wstring key = std::to_wstring(item.m_lType) + (item.OptionsIsCSIDL() ? L":" : L"|") +
                            std::wstring(item.Location());
   const auto [known, isNew] = m_known.try_emplace(key, I_IMAGENONE);
@@ -47,10 +53,9 @@ int ItemPictures::IndexOf(const clsOrvaneData& item) {
 }
 
 int ItemPictures::Add(const clsOrvaneData& item) {
-  const bool isFolder = item.IsTypeFolder() || item.IsTypeDynamicFolder() || item.IsTypeCopyToX();
   if (item.OptionsIsCSIDL()) return AddBitmap(OwnFolder);
-  if (!isFolder && !item.IsTypeFile()) return AddBitmap(BitmapOf(item));
-  const auto icon = m_finder.Find({std::wstring(item.Location()), isFolder});
+  if (!HasIcon(item)) return AddBitmap(BitmapOf(item));
+  const auto icon = m_finder.Find({std::wstring(item.Location()), !item.IsTypeFile()});
   const int place = icon ? AddIcon(*icon) : I_IMAGENONE;
   return place >= 0 ? place : AddBitmap(UnknownFile);
 }

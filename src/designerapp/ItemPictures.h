@@ -17,8 +17,9 @@ class ItemPictures {
   ItemPictures(const Platform& platform, int size);
 
   HIMAGELIST List() const { return m_list.get(); }
-  /// The place of the item's picture in the list.
-  int IndexOf(const clsOrvaneData& item);
+  /// The place of the item's picture in the list; a stand-in for the shell's own icons unless these
+  /// are wanted.
+  int IndexOf(const clsOrvaneData& item, bool withIcons);
 
  private:
   int Add(const clsOrvaneData& item);

@@ -15,7 +15,7 @@ namespace orvane::designerapp {
 namespace {
 
 constexpr UINT_PTR CheckTimer = 1;
-constexpr UINT CheckDelay = 300;  // milliseconds after the last edit
+constexpr UINT CheckDelay = 300;  // milliseconds after the last edit, or the first look
 
 // The window's own messages to itself.
 constexpr UINT LookMessage = WM_APP;
@@ -202,6 +202,7 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_TIMER:
       KillTimer(Handle(), CheckTimer);
+      m_tree.ShowIcons();
       m_findings.Check(false);
       return 0;
     case WM_DROPFILES:
@@ -302,8 +303,8 @@ void MainWindow::Clearing() {
 void MainWindow::ShowDocument() {
   m_tree.ShowAll();
   ShowTitle();
-  m_findings.Check(false);
   ShowCurrent();
+  SetTimer(Handle(), CheckTimer, CheckDelay, nullptr);
 }
 
 void MainWindow::ShowTitle() {

@@ -2,6 +2,8 @@
 
 #include <windowsx.h>
 
+#include <utility>
+
 #include "designerapp/CommandIds.h"
 #include "designerapp/Scale.h"
 #include "designerapp/Window.h"
@@ -63,6 +65,11 @@ void TreePane::ShowBackground() {
   const bool isColoured = m_program.globals.options.m_bGeneralShowBackground &&
                           !(contrast.dwFlags & HCF_HIGHCONTRASTON);
   TreeView_SetBkColor(m_tree, isColoured ? Tint() : CLR_NONE);
+}
+
+void TreePane::ShowIcons() {
+  if (std::exchange(m_withIcons, true)) return;
+  InvalidateRect(m_tree, nullptr, FALSE);
 }
 
 void TreePane::Clearing() {
@@ -173,7 +180,7 @@ void TreePane::Answer(TVITEMW& asked) {
     asked.pszText = m_text.data();
   }
   if (asked.mask & (TVIF_IMAGE | TVIF_SELECTEDIMAGE))
-    asked.iImage = asked.iSelectedImage = m_pictures->IndexOf(item.data);
+    asked.iImage = asked.iSelectedImage = m_pictures->IndexOf(item.data, m_withIcons);
   if (asked.mask & TVIF_CHILDREN) asked.cChildren = item.children.empty() ? 0 : 1;
 }
 
@@ -298,11 +305,12 @@ void TreePane::ShowDropPlace(const std::optional<designer::Place>& place) {
   TreeView_SetInsertMark(m_tree, before ? HandleOf(before) : nullptr, behind);
 }
 
-void TreePane::Refresh(const MenuItem& item) {
+/// The tree asks anew for what is in the mask.
+void TreePane::Refresh(const MenuItem& item, UINT mask) {
   const HTREEITEM handle = HandleOf(&item);
   if (!handle) return;
   TVITEMW change{};
-  change.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
+  change.mask = mask;
   change.hItem = handle;
   change.pszText = LPSTR_TEXTCALLBACKW;
   change.iImage = change.iSelectedImage = I_IMAGECALLBACK;
@@ -317,7 +325,7 @@ void TreePane::Inserted(MenuItem& item) {
         index == 0 ? TVI_FIRST : HandleOf(item.parent->children[index - 1].get());
     Add(item, after);
   }
-  Refresh(*item.parent);
+  Refresh(*item.parent, TVIF_CHILDREN);
 }
 
 void TreePane::Removing(MenuItem& item) {
@@ -326,7 +334,7 @@ void TreePane::Removing(MenuItem& item) {
 }
 
 void TreePane::Changed(MenuItem& item) {
-  Refresh(item);
+  Refresh(item, TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE);
 }
 
 }  // namespace orvane::designerapp

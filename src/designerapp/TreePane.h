@@ -26,6 +26,9 @@ class TreePane : public designer::EditListener {
   /// The background that the settings ask for.
   void ShowBackground();
 
+  /// From now on with the shell's icons: the first one takes the shell a while.
+  void ShowIcons();
+
   /// Shows the whole menu anew.
   void ShowAll();
   void Select(designer::MenuItem* item);  // null: nothing
@@ -58,7 +61,7 @@ class TreePane : public designer::EditListener {
   HTREEITEM Add(designer::MenuItem& item, HTREEITEM after);
   void Fill(designer::MenuItem& parent);
   void Reveal(designer::MenuItem& item);
-  void Refresh(const designer::MenuItem& item);
+  void Refresh(const designer::MenuItem& item, UINT mask);
   void Answer(TVITEMW& asked);
   LRESULT Paint(NMTVCUSTOMDRAW& draw) const;
   void Clicked();
@@ -69,6 +72,7 @@ class TreePane : public designer::EditListener {
   std::unordered_map<const designer::MenuItem*, HTREEITEM> m_handles;
   std::unordered_set<const designer::MenuItem*> m_filled;
   std::unordered_set<designer::MenuItem*> m_marked;
+  bool m_withIcons = false;
   std::wstring m_text;  // of the item the tree asks for
 };
 

@@ -2,9 +2,10 @@
 
 #include <commctrl.h>
 #include <ole2.h>
+#include <shellapi.h>
 
 // An empty window of the designer's kind, to compare its start with: the same libraries, a tree, a
-// list and a status bar, nothing in them.
+// list and a status bar with nothing in them, and files may be dropped on it.
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
   OleInitialize(nullptr);
@@ -29,6 +30,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
   add(WC_TREEVIEWW, 0, 0, 360, 460);
   add(WC_LISTVIEWW, 0, 460, 900, 120);
   add(STATUSCLASSNAMEW, 0, 0, 0, 0);
+  DragAcceptFiles(window, TRUE);
   ShowWindow(window, show);
   UpdateWindow(window);
   MSG message;

@@ -91,9 +91,9 @@ TEST(Keyboard, ChangesASettingAndGivesItItsDefaultAgain) {
   const auto longest = [&] {
     return std::to_wstring(designer.program.globals.options.m_lShellMaxMenuText);
   };
-  User().Type(L"%ts%l20{ENTER}");
+  User().Later(L"%l20{ENTER}").Type(L"%ts");
   EXPECT_EQ(designer.Once(L"20", longest), L"20");
-  User().Type(L"%ts%l%d{ENTER}");
+  User().Later(L"%l%d{ENTER}").Type(L"%ts");
   EXPECT_EQ(designer.Once(L"64", longest), L"64");
 }
 
@@ -110,10 +110,10 @@ TEST(Keyboard, ClearsAListAndInsertsAProgramOfTheStartMenu) {
   fs::create_directories(programs);
   std::ofstream(shortcut) << ' ';
   designer.Open();
-  User().Type(L"%tl%c{ESC}");
+  User().Later(L"%c{ESC}").Type(L"%tl");
   const auto count = [&] { return history.Load(5), std::to_wstring(history.FileCount()); };
   EXPECT_EQ(designer.Once(L"0", count), L"0");
-  User().Type(L"%irtest orvane{ENTER}");
+  User().Later(L"test orvane{ENTER}").Type(L"%ir");
   designer.ExpectShown(L"Notes Orvane test program");
   fs::remove(shortcut);
 }

@@ -32,7 +32,7 @@ void User::Letter(wchar_t letter) {
   }
 }
 
-User& User::Type(const std::wstring& keys) {
+void User::Send(const std::wstring& keys) {
   std::vector<WORD> held;
   for (std::size_t i = 0; i < keys.size(); ++i) {
     if (keys[i] == L'^' || keys[i] == L'%') {
@@ -58,7 +58,21 @@ User& User::Type(const std::wstring& keys) {
   }
   SendInput(static_cast<UINT>(m_events.size()), m_events.data(), sizeof(INPUT));
   m_events.clear();
+}
+
+User& User::Type(const std::wstring& keys) {
+  Send(keys);
   Wait();
+  return *this;
+}
+
+User& User::Later(const std::wstring& keys) {
+  static std::wstring s_later;
+  s_later = keys;
+  SetTimer(nullptr, 0, 1000, [](HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    User().Send(s_later);
+  });
   return *this;
 }
 
