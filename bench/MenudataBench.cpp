@@ -3,12 +3,11 @@
 #include <benchmark/benchmark.h>
 
 #include <random>
-#include <span>
 #include <string>
 
 #include "memory/Desktop.h"
+#include "menudata/CommandTable.h"
 #include "menudata/Definition.h"
-#include "support/Scrambler.h"
 
 namespace orvane {
 namespace {
@@ -40,48 +39,23 @@ void ReadDefinitionFile(benchmark::State& state) {
   Tools tools;
   const std::vector<std::byte> bytes = DefinitionOf(tools, state.range(0));
   for (auto _ : state) {
-    DefinitionFile file(bytes, tools.codePage);
+    CommandTable commands;
+    DefinitionFile file(bytes, tools.codePage, &commands.Memory());
     clsFileHeader header;
     tools.data.File_ReadVersion(file);
     tools.data.File_ReadHeader(file, header);
-    clsCollection list;
     for (std::int32_t i = 0; i < header.ItemCount; ++i) {
-      auto record = std::make_shared<clsOrvaneData>();
+      const auto record = commands.NewRecord();
+      commands.Add(record);
       std::int32_t parent = 0;
       tools.data.File_ReadItemHeader(file, parent, *record);
       tools.data.ReadData(file, *record);
-      list.Add({}, i, std::move(record));
     }
-    benchmark::DoNotOptimize(list.Count());
+    benchmark::DoNotOptimize(commands.Count());
   }
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-constexpr std::int64_t ItemsOfALargeFile = 12'700;  // 0.8 MB
-BENCHMARK(ReadDefinitionFile)
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(5000)
-    ->Arg(ItemsOfALargeFile)
-    ->Unit(benchmark::kMicrosecond);
-
-/// What cannot be done without: a copy of the file, each value of which is deciphered in place.
-void DecipherDefinitionFile(benchmark::State& state) {
-  Tools tools;
-  const std::vector<std::byte> bytes = DefinitionOf(tools, state.range(0));
-  Scrambler scrambler(L"QWXKRTZPV");
-  for (auto _ : state) {
-    std::vector<std::byte> copy = bytes;
-    for (std::span<std::byte> rest = copy; rest.size() > 4;) {
-      const auto size =
-          std::to_integer<std::size_t>(rest[2]) | std::to_integer<std::size_t>(rest[3]) << 8;
-      scrambler.Scramble(rest.subspan(4, size));
-      rest = rest.subspan(4 + size);
-    }
-    benchmark::DoNotOptimize(copy.data());
-  }
-  state.counters["bytes"] = static_cast<double>(bytes.size());
-}
-BENCHMARK(DecipherDefinitionFile)->Arg(ItemsOfALargeFile)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ReadDefinitionFile)->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
 
 /// Keys as a dynamic folder makes them.
 void SortBubble(benchmark::State& state) {

@@ -60,15 +60,6 @@ void ReadList(const wchar_t* name, int entries) {
   RegCloseKey(key);
 }
 
-void ReadFileWhole(const std::wstring& path) {
-  const HANDLE file =
-      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-  std::vector<char> bytes(GetFileSize(file, nullptr));
-  DWORD read = 0;
-  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-  CloseHandle(file);
-}
-
 void Insert(HMENU menu, UINT id, const wchar_t* caption, UINT type = MFT_STRING,
             HMENU submenu = nullptr, HBITMAP picture = nullptr) {
   MENUITEMINFOW info{};
@@ -149,6 +140,16 @@ class Pictures {
 
 }  // namespace
 
+std::vector<std::byte> BareFile(const std::wstring& path) {
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  std::vector<std::byte> bytes(GetFileSize(file, nullptr));
+  DWORD read = 0;
+  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+  CloseHandle(file);
+  return bytes;
+}
+
 void BareHandler(int listEntries) {
   ReadSettings();
   ReadList(L"HistoryMRU", listEntries);
@@ -161,7 +162,7 @@ void BareRightClick::operator()() const {
   wchar_t path[MAX_PATH];
   SHGetPathFromIDListW(folder, path);
   GetFileAttributesW(config.c_str());
-  ReadFileWhole(config);
+  BareFile(config);
   Pictures loaded;
   std::vector<HBITMAP> icons;
   // The root entry's, which Windows paints, is a check mark.

@@ -4,12 +4,16 @@
 
 #include <shlobj.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace orvane::host {
 
 // The platform calls of the product's work with nothing around them: what nobody can do without.
+
+/// A whole file.
+std::vector<std::byte> BareFile(const std::wstring& path);
 
 /// What a new handler reads: the settings, and lists of so many entries.
 void BareHandler(int listEntries);

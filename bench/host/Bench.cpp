@@ -6,6 +6,7 @@
 #include "host/BareCalls.h"
 #include "host/Com.h"
 #include "host/Definition.h"
+#include "host/DefinitionBench.h"
 #include "host/Library.h"
 #include "host/Measure.h"
 #include "host/Modes.h"
@@ -312,6 +313,7 @@ int RunBench() {
     return 1;
   }
   BenchHandler(scene, factory.Get());
+  BenchDefinition(scene);
   BenchRightClicks(scene, factory.Get(), folder.get());
   BenchIcons(scene, factory.Get(), folder.get());
   for (const std::size_t files : {100, 1000, 10'000}) BenchFolder(scene, files);

@@ -51,6 +51,9 @@ class CommandTable {
   /// A record for an item to be added.
   std::shared_ptr<clsOrvaneData> NewRecord() const { return m_arena.Make<clsOrvaneData>(); }
 
+  /// Where these records lie.
+  const Arena& Memory() const { return m_arena; }
+
   /// An item that stands in no menu yet.
   Command Add(std::shared_ptr<clsOrvaneData> record) {
     auto node = m_arena.Make<clsCollection>();

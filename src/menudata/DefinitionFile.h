@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "menudata/Arena.h"
 #include "support/CodePage.h"
 #include "support/Error.h"
 
@@ -25,14 +26,17 @@ class DefinitionFile {
   static constexpr std::uint16_t TextTag = 8;
   static constexpr std::size_t MaxLength = 65535;  // of one value, in bytes
 
-  DefinitionFile(std::vector<std::byte> bytes, const CodePage& codePage)
-      : m_bytes(std::move(bytes)), m_codePage(codePage) {}
+  /// With an arena, which is kept, the texts of records lie in it: those that are made there.
+  DefinitionFile(std::vector<std::byte> bytes, const CodePage& codePage,
+                 const Arena* arena = nullptr)
+      : m_bytes(std::move(bytes)), m_codePage(codePage), m_arena(arena) {}
 
   /// The bytes of the next value, which may be deciphered where they are; empty past the end.
   /// CorruptFile for a record that is cut off or no text.
   std::span<std::byte> Next();
 
   const CodePage& Page() const { return m_codePage; }
+  const Arena* TextArena() const { return m_arena; }
 
  private:
   std::uint16_t Number();
@@ -40,6 +44,7 @@ class DefinitionFile {
   std::vector<std::byte> m_bytes;
   std::size_t m_position = 0;
   const CodePage& m_codePage;
+  const Arena* m_arena;
 };
 
 }  // namespace orvane

@@ -7,8 +7,7 @@ namespace orvane {
 
 FieldText::Block* FieldText::NewBlock(std::size_t length) {
   if (length == 0) return nullptr;
-  void* memory = ::operator new(sizeof(Block) + length * sizeof(wchar_t));
-  return new (memory) Block{length};
+  return new (::operator new(BytesOf(length))) Block{length, false};
 }
 
 FieldText::Block* FieldText::MakeBlock(std::wstring_view text) {

@@ -3,9 +3,12 @@
 #include <compare>
 #include <concepts>
 #include <cstddef>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include "menudata/Arena.h"
 
 namespace orvane {
 
@@ -24,14 +27,24 @@ class FieldText {
   FieldText(std::size_t length, Write write) : m_block(NewBlock(length)) {
     if (m_block) write(Characters(m_block));
   }
+  /// The same in memory of the arena, which has to outlive the text where it was made; what is
+  /// copied or moved from it has memory of its own.
+  template <std::invocable<wchar_t*> Write>
+  FieldText(std::size_t length, Write write, const Arena& arena) {
+    if (length == 0) return;
+    m_block = new (arena.Take(BytesOf(length))) Block{length, true};
+    write(Characters(m_block));
+  }
   FieldText(const FieldText& other) : m_block(MakeBlock(other)) {}
-  FieldText(FieldText&& other) noexcept : m_block(std::exchange(other.m_block, nullptr)) {}
+  FieldText(FieldText&& other)
+      : m_block(other.IsBorrowed() ? MakeBlock(other) : std::exchange(other.m_block, nullptr)) {}
   FieldText& operator=(FieldText other) noexcept {
     std::swap(m_block, other.m_block);
     return *this;
   }
   ~FieldText() {
-    if (m_block) ::operator delete(m_block);  // most are empty, and a call each is dear
+    if (m_block && !m_block->borrowed)
+      ::operator delete(m_block);  // a call for each empty one is dear
   }
 
   operator std::wstring_view() const {
@@ -58,8 +71,14 @@ class FieldText {
 
  private:
   struct Block {
-    std::size_t length;  // the characters follow
+    std::size_t length;
+    bool borrowed;  // lies in an arena; the characters follow
   };
+
+  static constexpr std::size_t BytesOf(std::size_t length) {
+    return sizeof(Block) + length * sizeof(wchar_t);
+  }
+  bool IsBorrowed() const { return m_block && m_block->borrowed; }
 
   static wchar_t* Characters(Block* block) { return reinterpret_cast<wchar_t*>(block + 1); }
   static Block* NewBlock(std::size_t length);  // null for 0

@@ -61,7 +61,9 @@ std::wstring clsOrvaneDataTools::File_ReadString(DefinitionFile& file) const {
 FieldText clsOrvaneDataTools::ReadField(DefinitionFile& file) const {
   const std::span<std::byte> bytes = file.Next();
   m_scrambler.Scramble(bytes);
-  return {bytes.size(), [&](wchar_t* characters) { file.Page().Decode(bytes, characters); }};
+  const auto write = [&](wchar_t* characters) { file.Page().Decode(bytes, characters); };
+  if (const Arena* arena = file.TextArena()) return {bytes.size(), write, *arena};
+  return {bytes.size(), write};
 }
 
 std::int32_t clsOrvaneDataTools::File_ReadVersion(DefinitionFile& file) const {

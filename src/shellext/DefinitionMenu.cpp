@@ -43,7 +43,7 @@ bool DefinitionMenu::Read() {
   auto bytes = m_globals.platform.files.Read(m_globals.options.m_szShellConfigFile,
                                              FileReader::MaxSize, Patience::Menu);
   if (!bytes || bytes->empty()) return true;
-  DefinitionFile file(std::move(*bytes), m_globals.codePage);
+  DefinitionFile file(std::move(*bytes), m_globals.codePage, &m_state.commands.Memory());
   return ReadFile(file);
 }
 
