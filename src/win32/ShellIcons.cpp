@@ -40,14 +40,28 @@ std::optional<SystemIcon> Ask(const std::wstring& path, DWORD attributes, UINT h
   return SystemIcon{imageList, info.iIcon};
 }
 
-/// A text that the registry holds for the extension; empty when it holds none.
-std::wstring Association(ASSOCSTR what, const std::wstring& extension, const wchar_t* extra) {
-  std::array<wchar_t, 512> text{};
-  DWORD size = static_cast<DWORD>(text.size());
-  if (AssocQueryStringW(ASSOCF_NONE, what, extension.c_str(), extra, text.data(), &size) != S_OK)
-    return {};
-  return text.data();
-}
+/// What the registry holds for an extension, which is looked up once for all questions.
+class Association {
+ public:
+  explicit Association(const std::wstring& extension) {
+    if (FAILED(AssocCreate(CLSID_QueryAssociations, IID_IQueryAssociations,
+                           reinterpret_cast<void**>(m_query.Out()))) ||
+        FAILED(m_query->Init(ASSOCF_NONE, extension.c_str(), nullptr, nullptr)))
+      m_query = {};
+  }
+
+  /// Empty when it holds none.
+  std::wstring Text(ASSOCSTR what, const wchar_t* extra) const {
+    std::array<wchar_t, 512> text{};
+    DWORD size = static_cast<DWORD>(text.size());
+    if (!m_query || m_query->GetString(ASSOCF_NONE, what, extra, text.data(), &size) != S_OK)
+      return {};
+    return text.data();
+  }
+
+ private:
+  ComPointer<IQueryAssociations> m_query;
+};
 
 /// Owns a COM interface.
 class ImageList {
@@ -116,8 +130,9 @@ bool ShellIcons::HasOwnIcons(const std::wstring& extension) {
                                                 L".cur", L".ani", L".scr", L".pif"};
   if (extension.empty()) return false;
   if (std::ranges::find(Known, extension) != std::end(Known)) return true;
-  return Association(ASSOCSTR_DEFAULTICON, extension, nullptr).find(L"%1") != std::wstring::npos ||
-         !Association(ASSOCSTR_SHELLEXTENSION, extension, L"IconHandler").empty();
+  const Association kind(extension);
+  return kind.Text(ASSOCSTR_DEFAULTICON, nullptr).find(L"%1") != std::wstring::npos ||
+         !kind.Text(ASSOCSTR_SHELLEXTENSION, L"IconHandler").empty();
 }
 
 std::vector<std::wstring> ShellIcons::LeadsTo(const std::wstring& path) {
