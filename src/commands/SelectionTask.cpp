@@ -5,21 +5,15 @@
 #include "commands/ClipboardInUse.h"
 #include "commands/SelectionFile.h"
 #include "commands/TaskLists.h"
+#include "commands/TaskText.h"
 #include "commands/Warning.h"
 #include "commands/frmClipboardProgress.h"
 #include "platform/Clipboard.h"
 #include "platform/Launcher.h"
 #include "support/ProductName.h"
-#include "support/clsSprintf.h"
 
 namespace orvane {
 namespace {
-
-void TreatBackSlashes(clsOrvaneData& item, const CodePage& codePage) {
-  for (FieldText* text : {&item.m_szSelection_CmdPrefix, &item.m_szSelection_CmdSuffix,
-                          &item.m_szSelection_FilePrefix, &item.m_szSelection_FileSuffix})
-    *text = clsSprintf::TreatBackSlash(*text, codePage);
-}
 
 /// Whether the user wants the task to run on less than he selected.
 bool ConfirmIncomplete(MessageBoxes& boxes) {
@@ -59,13 +53,10 @@ void WriteFile(const CommandContext& context, const std::wstring& path, const st
 
 void StartCommand(const CommandContext& context, WindowHandle window, const clsOrvaneData& item,
                   const std::wstring& selection) {
-  clsCustomActions template_(context.actions);
-  template_.m_szActions = item.m_szSelection_Parms;
-  context.platform.launcher.OpenEx(
-      {.owner = window,
-       .file = item.m_szSelection_Command,
-       .parameters = template_.BuildActionString(L"<item goes here>", selection),
-       .directory = item.m_szSelection_WorkingDir});
+  context.platform.launcher.OpenEx({.owner = window,
+                                    .file = item.m_szSelection_Command,
+                                    .parameters = TaskParameters(item, selection, context.actions),
+                                    .directory = item.m_szSelection_WorkingDir});
 }
 
 /// None of the three hinders the next.

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "commands/TaskText.h"
 #include "designer/Labels.h"
-#include "designer/TaskText.h"
 #include "designerapp/FileDialogs.h"
 #include "designerapp/Scale.h"
 #include "menudata/ShellPaths.h"
@@ -217,9 +217,10 @@ void PropertyPane::ShowTask() {
   if (!m_task || !m_item) return;
   std::wstring text = L"With " + m_program.sample.Text() + L":\r\n";
   try {
-    const designer::TaskText made = designer::TaskTextOf(
-        m_item->data, m_program.sample, m_program.platform, m_program.globals.actionServices);
-    text += made.commandLine + L"\r\nList:\r\n" + made.fileList;
+    designer::SampleSelection selection(m_program.sample);
+    const TaskText made = TaskTextOf(m_item->data, selection, false, m_program.platform.files,
+                                     m_program.globals.actionServices);
+    text += made.CommandLine(m_item->data) + L"\r\nList:\r\n" + made.fileList;
   } catch (const Error& error) {
     text += error.Description();
   }

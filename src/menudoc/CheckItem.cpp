@@ -188,13 +188,25 @@ void CheckItem::CheckSpecialFolder(const clsOrvaneData& item) {
   }
 }
 
+/// What lies in a folder that is not there need not be looked for: a menu may name thousands.
+std::optional<std::uint32_t> CheckItem::AttributesOf(const std::wstring& path) {
+  FileReader& files = *m_surroundings.files;
+  const std::size_t name = path.find_last_of(L'\\');
+  if (name != path.npos && IsFullPath(path.substr(0, name))) {
+    const auto [folder, isNew] = m_folders.try_emplace(path.substr(0, name));
+    if (isNew) folder->second = files.Attributes(folder->first, m_patience).has_value();
+    if (!folder->second) return std::nullopt;
+  }
+  return files.Attributes(path, m_patience);
+}
+
 void CheckItem::CheckThere(const ItemField& field, const std::wstring& path, bool isFolder) {
   if (path.empty()) {
     if (field.name == "location") Warn(field.name, "is empty", "Say what to open.");
     return;
   }
   if (!m_surroundings.files || !IsFullPath(path)) return;
-  const auto attributes = m_surroundings.files->Attributes(path, m_patience);
+  const auto attributes = AttributesOf(path);
   if (!attributes) return Warn(field.name, Quoted(path) + " does not exist", "Correct the path.");
   const bool isDirectory = (*attributes & FileAttribute::Directory) != 0;
   if (isFolder && !isDirectory)

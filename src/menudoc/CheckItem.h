@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "menudoc/CheckMenu.h"
@@ -31,12 +33,14 @@ class CheckItem {
   void CheckTemplate(std::wstring_view text);
   void CheckFolder(const ItemField& field, std::wstring_view text);
   void CheckSpecialFolder(const clsOrvaneData& item);
+  std::optional<std::uint32_t> AttributesOf(const std::wstring& path);
   void CheckThere(const ItemField& field, const std::wstring& path, bool isFolder);
   void CheckTask(const clsOrvaneData& item);
   void CheckSeparation(std::string_view field, std::wstring_view prefix, std::wstring_view suffix);
 
   const MenuSurroundings& m_surroundings;
-  Patience m_patience{3000};  // milliseconds
+  Patience m_patience{3000};                         // milliseconds
+  std::unordered_map<std::wstring, bool> m_folders;  // whether they are there
   const clsOrvaneData* m_item = nullptr;
   std::vector<Finding> m_findings;
 };

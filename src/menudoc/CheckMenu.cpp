@@ -29,13 +29,17 @@ wchar_t MnemonicOf(std::wstring_view caption) {
 class TreeCheck {
  public:
   TreeCheck(const MenuDocument& menu, const MenuSurroundings& surroundings)
-      : m_menu(menu), m_itemCheck(surroundings), m_depths(DepthsOf(menu)) {}
+      : m_menu(menu),
+        m_surroundings(surroundings),
+        m_itemCheck(surroundings),
+        m_depths(DepthsOf(menu)) {}
 
   std::vector<Finding> Run() {
     for (m_item = 0; m_item < m_menu.items.size(); ++m_item) {
       CheckPlace();
       if (!Item().IsTypeRoot()) CheckMnemonic();
       for (Finding& finding : m_itemCheck.Check(Item())) Report(std::move(finding));
+      if (m_surroundings.reached) m_surroundings.reached(m_item, m_menu.items.size());
     }
     return std::move(m_findings);
   }
@@ -81,6 +85,7 @@ class TreeCheck {
   }
 
   const MenuDocument& m_menu;
+  const MenuSurroundings& m_surroundings;
   CheckItem m_itemCheck;
   std::vector<int> m_depths;
   std::map<std::pair<std::int32_t, wchar_t>, std::size_t> m_letters;  // by parent and letter

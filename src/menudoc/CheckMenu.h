@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "menudoc/MenuDocument.h"
@@ -12,6 +14,8 @@ namespace orvane {
 struct MenuSurroundings {
   const CodePage& codePage;     // what the definition file is written in
   FileReader* files = nullptr;  // asked for the locations; null: nobody is asked
+  std::function<void(std::size_t done, std::size_t total)>
+      reached{};  // after each item; may be none
 };
 
 /// All that is wrong with a menu, in the order of its items; places are those of FormatMenu's

@@ -100,17 +100,16 @@ JsonText ReadJson(std::string_view text) {
 }
 
 std::string MemberPlace(const std::string& place, std::string_view key) {
-  std::string name;
+  std::string member = place + "/";
   for (const char character : key) {
     if (character == '~')
-      name += "~0";
+      member += "~0";
     else if (character == '/')
-      name += "~1";
+      member += "~1";
     else
-      name += character;
+      member += character;
   }
-  const std::string quoted = Json(name).dump();
-  return place + "/" + quoted.substr(1, quoted.size() - 2);
+  return member;
 }
 
 std::string ElementPlace(const std::string& place, std::size_t index) {

@@ -17,8 +17,7 @@ struct JsonText {
 /// Of a key that stands in its object twice the first value is kept.
 JsonText ReadJson(std::string_view text);
 
-/// The place of a member of what is at `place`, as JSON pointer; characters that would break a line
-/// are escaped.
+/// The place of a member of what is at `place`, as JSON pointer.
 std::string MemberPlace(const std::string& place, std::string_view key);
 std::string ElementPlace(const std::string& place, std::size_t index);
 

@@ -1,8 +1,8 @@
 #include "designer/Preview.h"
 
+#include "commands/TaskText.h"
 #include "designer/Desk.h"
 #include "designer/Labels.h"
-#include "designer/TaskText.h"
 
 // What the preview shows and says.
 
@@ -114,9 +114,10 @@ TEST(TaskText, IsTheCommandLineAndTheListOfTheSample) {
   task.m_szSelection_Filter = L"*.txt";
   const Sample sample = designer::SampleOf({L"C:\\a.txt", L"C:\\b.doc", L"C:\\c.TXT"});
   EXPECT_EQ(sample.Text(), L"3 items in C:\\");
-  const auto text =
-      designer::TaskTextOf(task, sample, desk.desktop.Bundle(), desk.globals.actionServices);
-  EXPECT_EQ(text.commandLine, L"edit.exe C:\\a.txt C:\\c.TXT ");
+  designer::SampleSelection selection(sample);
+  const TaskText text =
+      TaskTextOf(task, selection, false, desk.desktop.files, desk.globals.actionServices);
+  EXPECT_EQ(text.CommandLine(task), L"edit.exe C:\\a.txt C:\\c.TXT ");
   EXPECT_EQ(text.fileList, L"C:\\a.txt\r\nC:\\c.TXT\r\n");
 }
 

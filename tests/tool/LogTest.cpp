@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "RunTool.h"
@@ -65,6 +66,7 @@ TEST_F(Log, SaysWhatIsNoLog) {
   const std::pair<std::string, const char*> rows[] = {
       {"\x89PNG\r\n\x1A\n", "is no log"},
       {"a text\n", "is no log"},
+      {std::string(1'000'000, 'x'), "is no log"},
       {good + "cut", "ends within a line, after 3 bytes"},
       {Record(Time + " >  Outer").substr(0, 20), "ends within a line"},
       {Record(Time + " >  Outer") + "text", "no record begins at byte 32"},
@@ -76,6 +78,7 @@ TEST_F(Log, SaysWhatIsNoLog) {
     EXPECT_NE(answer.errors.find(part), std::string::npos) << answer.errors;
   }
   EXPECT_EQ(Read("").status, 0);
+  EXPECT_EQ(Run({"log", "read", "-"}, good).output, Read(good).output);
   ExpectRefusal({"log", "read", Scratch("none")}, "cannot be read");
   ExpectRefusal({"log", "read", Scratch("")}, "cannot be read");
 }
@@ -83,6 +86,21 @@ TEST_F(Log, SaysWhatIsNoLog) {
 TEST_F(Log, ControlCharactersDoNotReachATerminal) {
   const Answer answer = Read(Time + "     a=\x1B[2J\r\nnext\r\n");
   EXPECT_NE(answer.output.find("a=\\x1B[2J\\x0Anext\n"), std::string::npos) << answer.output;
+}
+
+TEST_F(Log, FollowsWhatIsWrittenAndALogThatIsBegunAnew) {
+  const std::string file = Scratch("a.dbg");
+  RunningTool tool({"log", "read", file, "--follow"});
+  tool.WaitFor("waiting for the file");
+  Put(Path(file), Time + " >  One\r\n" + Time + " <    (Ex");
+  tool.WaitFor(">  One\n");
+  std::ofstream(Path(file), std::ios::app | std::ios::binary) << "it)\r\n";
+  tool.WaitFor("<    (Exit)\n");
+  Put(Path(file), Time + " >  Two\r\n");
+  tool.WaitFor(">  Two\n");
+#ifndef _WIN32  // where it is ended without a word
+  EXPECT_NE(tool.End().output.find("\n1 lines, 1 operations"), std::string::npos);
+#endif
 }
 
 TEST_F(Log, AMillionLinesAreRead) {

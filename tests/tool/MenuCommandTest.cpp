@@ -20,8 +20,8 @@ class MenuCommand : public ToolTest {
 
 /// What stands for the current user's folders where there is no Windows to ask.
 Arguments WithNames(Arguments arguments) {
-  for (const std::string name : {"documents", "pictures", "downloads", "system", "windows",
-                                 "commonStartMenu", "site", "class"})
+  for (const std::string name :
+       {"documents", "pictures", "downloads", "system", "windows", "commonStartMenu"})
     arguments.insert(arguments.end(), {"--set", name + "=C:\\" + name});
   return arguments;
 }
@@ -99,6 +99,28 @@ TEST_F(MenuCommand, CheckAndReadSayWhatIsWrongWithADefinitionFile) {
     ++files;
   }
   EXPECT_EQ(files, 6);
+}
+
+TEST_F(MenuCommand, BadInputIsNamedInOneLineAndLeavesNothing) {
+  const std::pair<std::string, const char*> rows[] = {
+      {"", "unexpected end of input"},
+      {"{\n  \"items\": [}", "parse error at line 2, column 13"},
+      {R"({"options": 1e999})", "number overflow"},
+      {std::string(10'000'000, 'x'), "parse error at line 1, column 1"},
+      {R"({"caption": ")" + std::string(10'000'000, 'x') + "\"}",
+       "is longer than 65535 characters"},
+      {std::string(1'000'000, '['), "nested deeper than"},
+      {R"({"items": [{"type": "file", "type": "file"}]})", "/items/0/type: stands there twice"},
+      {R"({"caption": {}})", "/caption: is no text"},
+      {R"({"items": [{"include": "."}]})", "/items/0/include: \".\" cannot be read"},
+      {std::string("{\"caption\": \"a\0b\"}", 18), "(NUL)"},
+      {"{\"caption\": \"caf\xE9\"}", "ill-formed UTF-8"},
+      {"{\"caption\": \"\\ud800\"}", "surrogate"},
+      {R"({"a\nb": 1})", "/a b: is not known"},
+  };
+  for (const auto& [text, part] : rows)
+    ExpectRefusal({"menu", "write", Write("menu.json", text), Scratch("menu.cfg")}, part);
+  EXPECT_FALSE(fs::exists(Path(Scratch("menu.cfg"))));
 }
 
 TEST_F(MenuCommand, StandardStreamsAndWhatIsReadIsNotWrittenOver) {

@@ -157,6 +157,9 @@ TEST_F(Preview, EndsWithOneLineAndStatus2) {
   ExpectRefusal({"preview", "--config", Utf8(m_driveC)}, "cannot be read");
   ExpectRefusal({"preview", "--config", good, "--bogus"}, "--bogus");
   ExpectRefusal({"preview", "--config", Data + "corrupt-truncated.cfg"}, "File is corrupt!");
+  ExpectRefusal({"preview", "--config", Data + "deep.json"}, "is a document");
+  EXPECT_EQ(Run({"preview", "--config", "-"}, TextOf(good)).output,
+            Run({"preview", "--config", good}).output);
   const struct {
     const char* option;
     std::string value;

@@ -1,27 +1,26 @@
 #include "RunTool.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <chrono>
 #include <fstream>
 #include <iterator>
+#include <thread>
+#include <utility>
 
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace orvane::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Files that stand for the program's standard streams.
-struct Streams {
-  explicit Streams(const fs::path& folder)
-      : input(folder / "stdin"), output(folder / "stdout"), errors(folder / "stderr") {}
-  fs::path input, output, errors;
-};
 
 #ifdef _WIN32
 
@@ -43,7 +42,7 @@ HANDLE OpenStream(const fs::path& path, DWORD access, DWORD how) {
                      nullptr);
 }
 
-int Execute(const Arguments& arguments, const Streams& streams) {
+RunningTool::Process Start(const Arguments& arguments, const Streams& streams) {
   const std::wstring program = fs::absolute(ORVANE_TOOL).native();
   std::wstring line = Quoted(program);
   for (const std::string& argument : arguments) line += L" " + Quoted(Path(argument).native());
@@ -54,33 +53,55 @@ int Execute(const Arguments& arguments, const Streams& streams) {
   startup.hStdOutput = OpenStream(streams.output, GENERIC_WRITE, CREATE_ALWAYS);
   startup.hStdError = OpenStream(streams.errors, GENERIC_WRITE, CREATE_ALWAYS);
   PROCESS_INFORMATION process{};
-  DWORD status = 255;
   if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                     &startup, &process)) {
-    WaitForSingleObject(process.hProcess, INFINITE);
-    GetExitCodeProcess(process.hProcess, &status);
+                     &startup, &process))
     CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-  }
   for (const HANDLE handle : {startup.hStdInput, startup.hStdOutput, startup.hStdError})
     CloseHandle(handle);
+  return process.hProcess;
+}
+
+int Wait(RunningTool::Process process) {
+  DWORD status = 255;
+  WaitForSingleObject(process, INFINITE);
+  GetExitCodeProcess(process, &status);
+  CloseHandle(process);
   return static_cast<int>(status);
+}
+
+// Ctrl+C would reach this program too.
+void Interrupt(RunningTool::Process process) {
+  TerminateProcess(process, 0);
 }
 
 #else
 
-std::string Quoted(const std::string& argument) {
-  std::string quoted = "'";
-  for (const char c : argument) quoted += c == '\'' ? "'\\''" : std::string(1, c);
-  return quoted + "'";
+void Redirect(int stream, const fs::path& path, int how) {
+  dup2(open(path.c_str(), how, 0600), stream);
 }
 
-int Execute(const Arguments& arguments, const Streams& streams) {
-  std::string line = Quoted(ORVANE_TOOL);
-  for (const std::string& argument : arguments) line += " " + Quoted(argument);
-  line +=
-      " <" + Quoted(streams.input) + " >" + Quoted(streams.output) + " 2>" + Quoted(streams.errors);
-  return WEXITSTATUS(std::system(line.c_str()));
+RunningTool::Process Start(const Arguments& arguments, const Streams& streams) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  Redirect(STDIN_FILENO, streams.input, O_RDONLY);
+  Redirect(STDOUT_FILENO, streams.output, O_WRONLY | O_CREAT | O_TRUNC);
+  Redirect(STDERR_FILENO, streams.errors, O_WRONLY | O_CREAT | O_TRUNC);
+  std::vector<std::string> texts = arguments;
+  std::vector<char*> pointers = {const_cast<char*>(ORVANE_TOOL)};
+  for (std::string& text : texts) pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+  execv(ORVANE_TOOL, pointers.data());
+  _exit(127);
+}
+
+int Wait(RunningTool::Process process) {
+  int status = 0;
+  waitpid(process, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 255;
+}
+
+void Interrupt(RunningTool::Process process) {
+  kill(process, SIGINT);
 }
 
 #endif
@@ -105,15 +126,39 @@ fs::path Path(const std::string& utf8) {
   return std::u8string(utf8.begin(), utf8.end());
 }
 
+RunningTool::RunningTool(const Arguments& arguments, const std::string& input)
+    : m_streams(m_folder.Path()) {
+  Put(m_streams.input, input);
+  m_process = Start(arguments, m_streams);
+}
+
+RunningTool::~RunningTool() {
+  if (m_isRunning) End();
+}
+
+std::string RunningTool::WaitFor(const std::string& text) const {
+  std::string printed;
+  for (int i = 0; i < 300 && printed.find(text) == printed.npos; ++i) {
+    if (i > 0) std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    printed = TextOf(m_streams.output) + TextOf(m_streams.errors);
+  }
+  EXPECT_NE(printed.find(text), printed.npos) << text << " did not come, but:\n" << printed;
+  return printed;
+}
+
+Answer RunningTool::End() {
+  Interrupt(m_process);
+  return Finish();
+}
+
+Answer RunningTool::Finish() {
+  m_isRunning = false;
+  const int status = Wait(m_process);
+  return {status, TextOf(m_streams.output), TextOf(m_streams.errors)};
+}
+
 Answer ToolTest::Run(const Arguments& arguments, const std::string& input) const {
-  const ScratchFolder folder;
-  const Streams streams(folder.Path());
-  Put(streams.input, input);
-  Answer answer;
-  answer.status = Execute(arguments, streams);
-  answer.output = TextOf(streams.output);
-  answer.errors = TextOf(streams.errors);
-  return answer;
+  return RunningTool(arguments, input).Finish();
 }
 
 void ToolTest::ExpectRefusal(const Arguments& arguments, const std::string& part) const {

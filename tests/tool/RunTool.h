@@ -25,6 +25,42 @@ void Put(const std::filesystem::path& path, const std::string& text);
 std::string Utf8(const std::filesystem::path& path);
 std::filesystem::path Path(const std::string& utf8);
 
+/// Files that stand for a program's standard streams.
+struct Streams {
+  explicit Streams(const std::filesystem::path& folder)
+      : input(folder / "stdin"), output(folder / "stdout"), errors(folder / "stderr") {}
+  std::filesystem::path input, output, errors;
+};
+
+/// The companion at work; ended with the object.
+class RunningTool {
+ public:
+#ifdef _WIN32
+  using Process = void*;
+#else
+  using Process = int;
+#endif
+
+  explicit RunningTool(const Arguments& arguments, const std::string& input = "");
+  ~RunningTool();
+  RunningTool(const RunningTool&) = delete;
+  RunningTool& operator=(const RunningTool&) = delete;
+
+  /// Waits until it has printed the text, half a minute at most; all that it has printed.
+  std::string WaitFor(const std::string& text) const;
+
+  /// Ends it with Ctrl+C, on Windows at once.
+  Answer End();
+  /// Waits for its end.
+  Answer Finish();
+
+ private:
+  ScratchFolder m_folder;
+  Streams m_streams;
+  Process m_process;
+  bool m_isRunning = true;
+};
+
 /// A test that runs the companion itself, with a folder to work in.
 class ToolTest : public testing::Test {
  protected:

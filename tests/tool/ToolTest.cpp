@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "RunTool.h"
 
 namespace orvane::tool {
@@ -44,7 +46,20 @@ TEST_F(ToolTest, AFailureLeavesTheOldFileAndNothingElse) {
   EXPECT_EQ(std::distance(fs::directory_iterator(m_scratch.Path()), {}), 2);
 }
 
-#ifndef _WIN32  // whose library makes no links and knows no modes
+#ifndef _WIN32  // whose library has no terminals, makes no links and knows no modes
+TEST_F(ToolTest, LongWorkShowsItsProgressOnATerminalAlone) {
+  const std::string json = Scratch("menu.json"), cfg = Scratch("menu.cfg"), seen = Scratch("seen");
+  std::string items = R"({"type": "separator"})";
+  for (int i = 0; i < 50'000; ++i) items += R"(, {"type": "separator"})";
+  Put(Path(json), R"({"items": [)" + items + "]}");
+  EXPECT_EQ(Run({"menu", "write", json, cfg}).errors, "");
+  const std::string command = ORVANE_TOOL " menu write " + json + " " + cfg;
+  ASSERT_EQ(std::system(("script -qec '" + command + "' " + seen + " >" + seen + "2").c_str()), 0);
+  const std::string shown = TextOf(seen);
+  for (const char* part : {"\rreading 0 %", "\rchecking 50 %", "\rwriting 0 %"})
+    EXPECT_NE(shown.find(part), shown.npos) << shown;
+}
+
 TEST_F(ToolTest, ALinkStaysOneAndAModeStays) {
   const fs::path file = m_scratch.Path() / "menu.cfg";
   const fs::path link = m_scratch.Path() / "link.cfg";

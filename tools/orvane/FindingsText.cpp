@@ -11,15 +11,14 @@ const char* NameOf(Finding::Severity severity) {
   return severity == Finding::Severity::Error ? "error" : "warning";
 }
 
-/// Texts of the user's may hold anything; a line is a line.
+}  // namespace
+
 std::string OnOneLine(std::string text) {
   for (char& character : text) {
     if (static_cast<unsigned char>(character) < ' ') character = ' ';
   }
   return text;
 }
-
-}  // namespace
 
 std::string FindingsText(const std::vector<Finding>& findings) {
   std::string text;

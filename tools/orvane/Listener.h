@@ -2,8 +2,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "Sockets.h"
 
 namespace orvane::tool {
 
@@ -19,14 +22,18 @@ class Listener {
   Listener(const Listener&) = delete;
   Listener& operator=(const Listener&) = delete;
 
-  std::uint16_t Port() const;
+  std::uint16_t Port() const { return Sockets::Port(m_open.front()); }
 
   /// Waits so long for senders and their bytes, and hands on what has come.
   void Wait(int milliseconds, const Sink& sink);
 
  private:
-  struct Sockets;
-  std::unique_ptr<Sockets> m_sockets;
+  void Receive(std::size_t sender, const Sink& sink);
+
+  Sockets m_sockets;
+  std::vector<Sockets::Socket> m_open;  // the listening one, and the senders'
+  std::vector<int> m_numbers = {0};     // of the senders, beside m_open
+  int m_count = 0;
 };
 
 }  // namespace orvane::tool

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <stdexcept>
@@ -63,33 +64,34 @@ class Reading {
                      }};
 };
 
-/// Feeds what the file holds from the position on, and moves the position.
-void FeedFrom(std::ifstream& file, std::uintmax_t& position, Reading& reading, Progress* progress) {
-  file.seekg(static_cast<std::streamoff>(position));
+/// Feeds what the stream holds from where it stands; `reached` is told how many bytes came.
+void FeedFrom(std::istream& stream, Reading& reading,
+              const std::function<void(std::size_t)>& reached) {
   std::string bytes(0x10000, '\0');
-  while (file.read(bytes.data(), static_cast<std::streamsize>(bytes.size())) || file.gcount() > 0) {
-    const auto count = static_cast<std::size_t>(file.gcount());
+  while (stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size())) ||
+         stream.gcount() > 0) {
+    const auto count = static_cast<std::size_t>(stream.gcount());
     reading.Feed(std::string_view(bytes).substr(0, count));
-    position += count;
-    if (progress) progress->Reach(position);
+    reached(count);
   }
 }
 
 void ReadWhole(const Arguments& arguments) {
   Reading reading(arguments);
-  std::error_code error;
+  const bool standard = arguments.file == StandardStream;
   const fs::path path = HostPath(arguments.file);
-  std::ifstream file(path, std::ios::binary);
-  if (!file || fs::is_directory(path, error))
-    throw std::runtime_error(arguments.file + ": cannot be read");
-  Progress progress("reading", fs::file_size(path, error));
+  std::error_code error;
+  std::ifstream file;
+  if (!standard) file.open(path, std::ios::binary);
+  if (!file || (!standard && fs::is_directory(path, error)))
+    throw std::runtime_error("cannot be read");
+  const std::uintmax_t size = fs::file_size(path, error);
+  // Lines that are printed to the same terminal would be torn apart.
+  Progress progress(error || IsTerminal(Stream::Output) ? 0 : size);
   std::uintmax_t position = 0;
-  try {
-    FeedFrom(file, position, reading, &progress);
-    reading.End();
-  } catch (const std::runtime_error& wrong) {
-    throw std::runtime_error(arguments.file + ": " + wrong.what());
-  }
+  FeedFrom(standard ? std::cin : file, reading,
+           [&](std::size_t count) { progress.Reach("reading", position += count, size); });
+  reading.End();
   reading.PrintSummary();
 }
 
@@ -97,10 +99,13 @@ void ReadWhole(const Arguments& arguments) {
 void Follow(const Arguments& arguments) {
   const Interrupt interrupt;
   const fs::path path = HostPath(arguments.file);
+  std::error_code error;
+  if (fs::is_directory(path, error)) throw std::runtime_error("cannot be read");
+  if (!fs::exists(path, error))
+    std::cerr << "orvane: " << arguments.file << ": waiting for the file\n";
   auto reading = std::make_unique<Reading>(arguments);
   std::uintmax_t position = 0;
   while (!interrupt.Asked()) {
-    std::error_code error;
     const std::uintmax_t size = fs::file_size(path, error);
     if (!error && size < position) {
       reading = std::make_unique<Reading>(arguments);
@@ -108,7 +113,8 @@ void Follow(const Arguments& arguments) {
     }
     if (!error && size > position) {
       std::ifstream file(path, std::ios::binary);
-      if (file) FeedFrom(file, position, *reading, nullptr);
+      file.seekg(static_cast<std::streamoff>(position));
+      FeedFrom(file, *reading, [&](std::size_t count) { position += count; });
       reading->Flush();
       std::cout.flush();
     }
@@ -118,10 +124,15 @@ void Follow(const Arguments& arguments) {
 }
 
 void Read(const Arguments& arguments) {
-  if (arguments.follow)
-    Follow(arguments);
-  else
-    ReadWhole(arguments);
+  try {
+    if (arguments.follow)
+      Follow(arguments);
+    else
+      ReadWhole(arguments);
+  } catch (const std::runtime_error& error) {
+    std::cout.flush();
+    throw std::runtime_error(arguments.file + ": " + error.what());
+  }
   if (!std::cout.flush()) throw std::runtime_error("standard output: cannot be written");
 }
 
@@ -167,7 +178,8 @@ void AddLogCommand(CLI::App& app) {
   log->require_subcommand(1);
 
   CLI::App* read = log->add_subcommand("read", "Prints a log, plain or scrambled, and its sums");
-  read->add_option("FILE", arguments->file, "The log, such as Debug.dbg")->required();
+  read->add_option("FILE", arguments->file, "The log, such as Debug.dbg, - for standard input")
+      ->required();
   read->add_flag("--follow", arguments->follow, "Go on with what is written, until Ctrl+C");
 
   CLI::App* listen =

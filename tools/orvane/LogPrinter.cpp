@@ -2,10 +2,9 @@
 
 #include <iostream>
 #include <nlohmann/json.hpp>
-#include <stdexcept>
 
+#include "WideText.h"
 #include "support/Text.h"
-#include "support/Utf8.h"
 
 namespace orvane::tool {
 namespace {
@@ -18,11 +17,6 @@ std::string Json(const LogLine& line, std::optional<int> sender) {
   json["level"] = line.level;
   json["text"] = ToUtf8(line.text);
   return json.dump();
-}
-
-std::wstring WideOperation(const std::string& operation) {
-  if (const auto wide = FromUtf8(operation)) return LowerCase(*wide);
-  throw std::runtime_error("\"" + operation + "\" is not UTF-8");
 }
 
 }  // namespace
@@ -41,7 +35,7 @@ std::string Printable(std::wstring_view text) {
 }
 
 LogPrinter::LogPrinter(bool json, const std::string& operation)
-    : m_json(json), m_operation(WideOperation(operation)) {}
+    : m_json(json), m_operation(LowerCase(WideText(operation))) {}
 
 void LogPrinter::Print(const LogLine& line, std::optional<int> sender) {
   if (!IsWanted(line)) return;

@@ -9,6 +9,7 @@ namespace {
 
 constexpr char TextTag = 8;
 constexpr std::size_t HeadSize = 4;  // tag and length, two bytes each
+constexpr std::size_t LongestFirstLine = 0x20000;
 
 std::size_t Word(std::string_view bytes, std::size_t at) {
   return static_cast<unsigned char>(bytes[at]) |
@@ -28,6 +29,9 @@ void LogReader::Feed(std::string_view bytes) {
   else
     TakeTextLines();
   m_pending.erase(0, std::exchange(m_taken, 0));
+  // Another file may have no line ends at all.
+  if (!m_begun && m_pending.size() > LongestFirstLine)
+    throw std::runtime_error("is no log: it begins with no line of one");
 }
 
 void LogReader::TakeRecords() {

@@ -7,7 +7,10 @@
 #include <stdexcept>
 #include <utility>
 
+#include "FindingsText.h"
 #include "HostFile.h"
+#include "Progress.h"
+#include "WideText.h"
 #include "menudoc/MenuTree.h"
 #include "menudoc/NamesInText.h"
 #include "support/Text.h"
@@ -17,11 +20,6 @@ namespace orvane::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::wstring Wide(const std::string& text) {
-  if (auto wide = FromUtf8(text)) return *std::move(wide);
-  throw std::runtime_error("\"" + text + "\" is not UTF-8");
-}
 
 fs::path PathOf(const std::string& utf8) {
   return std::u8string(utf8.begin(), utf8.end());
@@ -51,14 +49,14 @@ std::map<std::wstring, std::wstring> ValuesOf(const std::vector<std::string>& se
     const std::size_t sign = setting.find('=');
     if (sign == 0 || sign == std::string::npos)
       throw std::runtime_error("--set \"" + setting + "\" is not NAME=VALUE");
-    values[LowerCase(Wide(setting.substr(0, sign)))] = Wide(setting.substr(sign + 1));
+    values[LowerCase(WideText(setting.substr(0, sign)))] = WideText(setting.substr(sign + 1));
   }
   return values;
 }
 
 /// A definition file begins with the tag of a text, which no document does.
 bool IsDefinition(const std::string& content, const std::string& path) {
-  return content.starts_with('\b') || LowerCase(Wide(path)).ends_with(L".cfg");
+  return content.starts_with('\b') || LowerCase(WideText(path)).ends_with(L".cfg");
 }
 
 Finding ErrorOfFile(std::string text) {
@@ -91,11 +89,16 @@ MenuFiles::MenuFiles(const MenuOptions& options)
 }
 
 ParsedMenu MenuFiles::Read(const std::string& path) {
-  return Read(path, {m_codePage, m_hasFiles ? &Files() : nullptr});
+  return Read(path, m_hasFiles ? &Files() : nullptr);
 }
 
-ParsedMenu MenuFiles::Read(const std::string& path, const MenuSurroundings& surroundings) {
+ParsedMenu MenuFiles::Read(const std::string& path, FileReader* locations) {
   const std::string content = ReadInput(path);
+  Progress progress(m_size);
+  progress.Reach("reading", 0, 1);
+  const MenuSurroundings surroundings{m_codePage, locations, [&](auto done, auto total) {
+                                        progress.Reach("checking", done, total);
+                                      }};
   if (!IsDefinition(content, path)) {
     ParsedMenu parsed = ParseMenu(content, Sources(path));
     CheckParsed(parsed, surroundings);
@@ -115,12 +118,12 @@ ParsedMenu MenuFiles::Read(const std::string& path, const MenuSurroundings& surr
 
 MenuDocument MenuFiles::ReadSound(const std::string& path) {
   // A location that is not there is no error, and looking for thousands of them takes its time.
-  ParsedMenu parsed = Read(path, {m_codePage});
+  ParsedMenu parsed = Read(path, nullptr);
   std::string errors;
   for (const Finding& finding : parsed.findings) {
     if (finding.severity != Finding::Severity::Error) continue;
     errors += (errors.empty() ? "" : "\norvane: ") + path + ": " +
-              (finding.place.empty() ? "" : finding.place + ": ") + finding.text;
+              OnOneLine((finding.place.empty() ? "" : finding.place + ": ") + finding.text);
   }
   if (!errors.empty()) throw std::runtime_error(errors);
   return std::move(parsed.menu);
@@ -128,6 +131,8 @@ MenuDocument MenuFiles::ReadSound(const std::string& path) {
 
 MenuDocument MenuFiles::ReadDefinitionFile(const std::string& path) {
   const std::string content = ReadInput(path);
+  Progress progress(m_size);
+  progress.Reach("reading", 0, 1);
   try {
     return Decode(content);
   } catch (const Error& error) {
@@ -138,6 +143,8 @@ MenuDocument MenuFiles::ReadDefinitionFile(const std::string& path) {
 }
 
 void MenuFiles::WriteDefinitionFile(const MenuDocument& menu, const std::string& path) {
+  Progress progress(m_size);
+  progress.Reach("writing", 0, 1);
   Write(path, WriteDefinition(menu, m_codePage, m_scrambler));
 }
 
@@ -147,7 +154,9 @@ void MenuFiles::WriteText(const std::string& text, const std::string& path) {
 
 std::string MenuFiles::ReadInput(const std::string& path) {
   m_inputs.push_back(path);
-  return ReadHostFile(path);
+  std::string content = ReadHostFile(path);
+  m_size += content.size();
+  return content;
 }
 
 void MenuFiles::Write(const std::string& path, std::span<const std::byte> bytes) {

@@ -53,7 +53,8 @@ class MenuFiles {
   memory::Desktop& Desktop() { return m_desktop; }
 
  private:
-  ParsedMenu Read(const std::string& path, const MenuSurroundings& surroundings);
+  /// `locations`: where to look for them; null for nowhere.
+  ParsedMenu Read(const std::string& path, FileReader* locations);
   std::string ReadInput(const std::string& path);
   MenuDocument Decode(const std::string& content);
   DocumentSources Sources(const std::string& path);
@@ -69,6 +70,7 @@ class MenuFiles {
   clsOrvaneDataTools m_tools;
   std::map<std::wstring, std::wstring> m_values;  // by lower-case name
   std::vector<std::string> m_inputs;
+  std::size_t m_size = 0;  // of what was read
 };
 
 }  // namespace orvane::tool

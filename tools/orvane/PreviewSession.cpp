@@ -7,6 +7,7 @@
 
 #include "Host.h"
 #include "HostFile.h"
+#include "WideText.h"
 #include "memory/DataObject.h"
 #include "memory/RegFile.h"
 #include "menudata/Definition.h"
@@ -21,11 +22,6 @@ namespace {
 constexpr std::uint32_t HelpTextWide = 5;  // GCS_HELPTEXTW
 constexpr std::uint16_t CtrlKey = 0x11;    // VK_CONTROL
 constexpr std::uint16_t ShiftKey = 0x10;   // VK_SHIFT
-
-std::wstring Wide(const std::string& text) {
-  if (auto wide = FromUtf8(text)) return *std::move(wide);
-  throw std::runtime_error("\"" + text + "\" is not UTF-8");
-}
 
 std::wstring WithoutAmpersands(std::wstring text) {
   std::erase(text, L'&');
@@ -42,9 +38,8 @@ void Import(const std::string& path, memory::Registry& registry) {
 }
 
 /// Puts a file of the host where the settings, or the default, want it.
-void Place(memory::Desktop& desktop, const std::string& path, const std::wstring& setting,
+void Place(memory::Desktop& desktop, const std::string& content, const std::wstring& setting,
            const std::wstring& defaultName) {
-  const std::string content = ReadHostFile(path);
   const auto configured =
       desktop.registry.FindText(Hive::CurrentUser, L"Software\\Tarnwick\\Orvane", setting);
   std::wstring place(Trim(configured.value_or(L"")));
@@ -53,8 +48,12 @@ void Place(memory::Desktop& desktop, const std::string& path, const std::wstring
 }
 
 /// A preview of what cannot be read would show an empty menu.
-void CheckDefinition(memory::Desktop& desktop, const std::string& path) {
-  const std::string content = ReadHostFile(path);
+void CheckDefinition(memory::Desktop& desktop, const std::string& path,
+                     const std::string& content) {
+  if (content.starts_with('{') || content.starts_with('/'))
+    throw std::runtime_error(path +
+                             ": is a document; \"orvane menu write\" makes the definition "
+                             "file of it that is shown");
   const auto bytes = std::as_bytes(std::span(content));
   const CodePage codePage(desktop.system.AnsiCharacters());
   const clsOptions options;
@@ -92,12 +91,13 @@ const MenuEntry* FindEntry(const memory::Menus& menus, MenuHandle menu, std::wst
 
 PreviewSession::PreviewSession(const PreviewOptions& options) : m_options(options) {
   MountDrives();
-  CheckDefinition(desktop, options.config);
+  const std::string config = ReadHostFile(options.config);
+  CheckDefinition(desktop, options.config, config);
   if (!options.registry.empty()) Import(options.registry, desktop.registry);
-  Place(desktop, options.config, L"ShellConfigFile", L"Default.cfg");
+  Place(desktop, config, L"ShellConfigFile", L"Default.cfg");
   if (!options.actions.empty())
-    Place(desktop, options.actions, L"ShellCustomActionsFile", L"CustomActions.ini");
-  for (const std::string& answer : options.answers) desktop.answers.Add(Wide(answer));
+    Place(desktop, ReadHostFile(options.actions), L"ShellCustomActionsFile", L"CustomActions.ini");
+  for (const std::string& answer : options.answers) desktop.answers.Add(WideText(answer));
   if (options.ctrl) desktop.keyboard.down.insert(CtrlKey);
   if (options.shift) desktop.keyboard.down.insert(ShiftKey);
   AddWindows();
@@ -134,8 +134,9 @@ void PreviewSession::AddWindows() {
     const std::size_t second = first == text->npos ? first : text->find(':', first + 1);
     if (second == text->npos)
       throw std::runtime_error("--window \"" + *text + "\" is not CLASS:CAPTION:EXE");
-    AddWindow(Wide(text->substr(0, first)), Wide(text->substr(first + 1, second - first - 1)),
-              Wide(text->substr(second + 1)));
+    AddWindow(WideText(text->substr(0, first)),
+              WideText(text->substr(first + 1, second - first - 1)),
+              WideText(text->substr(second + 1)));
   }
   desktop.windows.Activate(m_window);
 }
@@ -160,11 +161,11 @@ void PreviewSession::AddWindow(std::wstring className, std::wstring caption,
 std::int32_t PreviewSession::BuildMenu() {
   m_globals.emplace(desktop.Bundle());
   m_handler = std::make_unique<ContextMenuHandler>(*m_globals);
-  const std::wstring folder = Wide(m_options.folder);
+  const std::wstring folder = WideText(m_options.folder);
   std::shared_ptr<DataObject> selection;
   if (!m_options.select.empty()) {
     FileNames names;
-    for (const std::string& name : m_options.select) names.Add(Wide(name));
+    for (const std::string& name : m_options.select) names.Add(WideText(name));
     selection = std::make_shared<memory::DataObject>(std::move(names));
   }
   m_handler->IShellExtInit_Initialize(folder.empty() ? ItemIdList() : memory::Shell::ItemOf(folder),
@@ -177,7 +178,7 @@ std::int32_t PreviewSession::BuildMenu() {
 }
 
 const MenuEntry& PreviewSession::Find(const std::string& path) const {
-  const MenuEntry* entry = FindEntry(desktop.menus, menu, WithoutAmpersands(Wide(path)));
+  const MenuEntry* entry = FindEntry(desktop.menus, menu, WithoutAmpersands(WideText(path)));
   if (!entry) throw std::runtime_error("the menu has no entry \"" + path + "\"");
   return *entry;
 }
@@ -194,7 +195,7 @@ void PreviewSession::Invoke() {
   request.window = m_window;
   if (m_options.verb) {
     request.byOffset = false;
-    request.verb = Wide(*m_options.verb);
+    request.verb = WideText(*m_options.verb);
   } else {
     const MenuEntry& entry = Find(m_options.invoke);
     if (entry.submenu != MenuHandle::None || entry.state != MenuEntry::State::Enabled)

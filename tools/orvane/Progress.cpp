@@ -1,5 +1,6 @@
 #include "Progress.h"
 
+#include <algorithm>
 #include <iostream>
 #include <utility>
 
@@ -8,25 +9,28 @@
 namespace orvane::tool {
 namespace {
 
-constexpr std::uintmax_t Long = 4'000'000;  // bytes: what is shorter is done at once
+constexpr std::uintmax_t Long = 1'000'000;  // bytes
 
 }  // namespace
 
-Progress::Progress(std::string what, std::uintmax_t total)
-    : m_what(std::move(what)), m_total(total) {}
+Progress::Progress(std::uintmax_t size) : m_isShown(size >= Long && IsTerminal(Stream::Errors)) {}
 
 Progress::~Progress() {
-  if (m_shown) std::cerr << '\r' << std::string(m_what.size() + 6, ' ') << '\r' << std::flush;
+  if (!m_line.empty()) Show("");
 }
 
-// Lines that are printed to the same terminal would be torn apart.
-void Progress::Reach(std::uintmax_t done) {
-  if (m_total < Long || done > m_total) return;
-  const std::uintmax_t percent = done * 100 / m_total;
-  if (percent == m_percent || !IsTerminal(Stream::Errors) || IsTerminal(Stream::Output)) return;
-  m_percent = percent;
-  m_shown = true;
-  std::cerr << '\r' << m_what << ' ' << percent << " %" << std::flush;
+void Progress::Reach(const char* what, std::uintmax_t done, std::uintmax_t total) {
+  if (!m_isShown) return;
+  const std::uintmax_t percent = std::min(done, total) * 100 / std::max<std::uintmax_t>(total, 1);
+  const std::string line = what + (' ' + std::to_string(percent) + " %");
+  if (line != m_line) Show(line);
+}
+
+void Progress::Show(const std::string& line) {
+  const std::size_t before = std::exchange(m_line, line).size();
+  std::cerr << '\r' << line << std::string(before - std::min(before, line.size()), ' ');
+  if (line.empty()) std::cerr << '\r';
+  std::cerr << std::flush;
 }
 
 }  // namespace orvane::tool

@@ -5,22 +5,24 @@
 
 namespace orvane::tool {
 
-/// How far long work is, in percent on a terminal; nothing elsewhere. The line goes with the
-/// object.
+/// What long work is at and how far it is, in a line on a terminal; nothing elsewhere. The line
+/// goes with the object.
 class Progress {
  public:
-  Progress(std::string what, std::uintmax_t total);
+  /// `size`: how much there is to do, in bytes. What is small is done before anybody looks.
+  explicit Progress(std::uintmax_t size);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  void Reach(std::uintmax_t done);
+  /// `what` is done now, such as "reading".
+  void Reach(const char* what, std::uintmax_t done, std::uintmax_t total);
 
  private:
-  std::string m_what;
-  std::uintmax_t m_total;
-  std::uintmax_t m_percent = 0;
-  bool m_shown = false;
+  void Show(const std::string& line);
+
+  bool m_isShown;
+  std::string m_line;
 };
 
 }  // namespace orvane::tool

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "ActionsCommand.h"
 #include "CompletionCommand.h"
 #include "DoctorCommand.h"
 #include "Host.h"
@@ -13,6 +14,7 @@
 #include "PreviewCommand.h"
 #include "SettingsCommand.h"
 #include "Subcommands.h"
+#include "TaskCommand.h"
 
 namespace orvane::tool {
 namespace {
@@ -22,6 +24,8 @@ namespace {
 void AddSubcommands(CLI::App& app, int& exitCode) {
   AddMenuCommand(app, exitCode);
   AddPreviewCommand(app);
+  AddTaskCommand(app);
+  AddActionsCommand(app, exitCode);
   AddDoctorCommand(app, exitCode);
   AddSettingsCommand(app);
   AddLogCommand(app);
