@@ -76,10 +76,10 @@ wine_environment() {
 # Starts a virtual display on the first free number; stop_desktop ends it together with the prefix's
 # programs. Both are ours alone.
 xvfb_pid=
-start_desktop() {
+start_desktop() {  # [SIZE]
   local number_file=$root/build/display
   rm -f "$number_file"
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${1:-1024x768}x24" -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
   xvfb_pid=$!
   for _ in $(seq 100); do
     [ -s "$number_file" ] && break

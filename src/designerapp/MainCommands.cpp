@@ -161,6 +161,16 @@ bool MainWindow::ViewCommand(int id) {
       m_findings.Check(true);
       Status(std::to_wstring(m_findings.Count()) + L" findings");
       return true;
+    case ID_VIEW_RIGHT:
+    case ID_VIEW_LEFT:
+      m_dividers.Push(Dividers::Divider::Upright, id == ID_VIEW_LEFT);
+      Arrange();
+      return true;
+    case ID_VIEW_DOWN:
+    case ID_VIEW_UP:
+      m_dividers.Push(Dividers::Divider::Level, id == ID_VIEW_UP);
+      Arrange();
+      return true;
     case ID_VIEW_NEXT_PART:
       NextPart();
       return true;

@@ -129,15 +129,38 @@ void MainWindow::Arrange() {
   GetWindowRect(m_status, &status);
   RECT client{};
   GetClientRect(Handle(), &client);
-  const int gap = Scaled(4, DpiOf(Handle()));
-  const int width = client.right;
-  const int height = std::max<int>(client.bottom - (status.bottom - status.top), 0);
-  const int lower = std::min(Scaled(120, DpiOf(Handle())), height / 3);
-  const int left = width * 2 / 5;
-  MoveWindow(m_tree.Handle(), 0, 0, left, height - lower - gap, TRUE);
-  MoveWindow(m_properties.Handle(), left + gap, 0, std::max(width - left - gap, 0),
-             height - lower - gap, TRUE);
-  MoveWindow(m_findings.Handle(), 0, height - lower, width, lower, TRUE);
+  const LONG height = std::max<LONG>(client.bottom - (status.bottom - status.top), 0);
+  const Dividers::Places places =
+      m_dividers.PlacesIn({client.right, height}, Scaled(4, DpiOf(Handle())));
+  const auto place = [](HWND part, const RECT& rect) {
+    MoveWindow(part, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, TRUE);
+  };
+  place(m_tree.Handle(), places.tree);
+  place(m_properties.Handle(), places.properties);
+  place(m_findings.Handle(), places.findings);
+}
+
+/// Whether the message was the mouse's way with a divider.
+bool MainWindow::DividerMessage(UINT message) {
+  using Divider = Dividers::Divider;
+  const DWORD at = GetMessagePos();
+  POINT point{GET_X_LPARAM(at), GET_Y_LPARAM(at)};
+  ScreenToClient(Handle(), &point);
+  const Divider here = m_moving == Divider::None ? m_dividers.At(point) : m_moving;
+  if (m_dragging || here == Divider::None) return false;
+  if (message == WM_SETCURSOR) {
+    SetCursor(LoadCursorW(nullptr, here == Divider::Upright ? IDC_SIZEWE : IDC_SIZENS));
+  } else if (message == WM_LBUTTONDOWN) {
+    m_moving = here;
+    SetCapture(Handle());
+  } else if (message == WM_MOUSEMOVE && m_moving != Divider::None) {
+    m_dividers.MoveTo(here, point);
+    Arrange();
+  } else if (message != WM_MOUSEMOVE) {
+    m_moving = Divider::None;
+    if (message == WM_LBUTTONUP) ReleaseCapture();
+  }
+  return true;
 }
 
 LRESULT MainWindow::Notify(NMHDR& header) {
@@ -211,14 +234,20 @@ LRESULT MainWindow::Message(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CONTEXTMENU:
       if (reinterpret_cast<HWND>(wParam) == m_tree.Handle()) ContextMenu(lParam);
       return 0;
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) == HTCLIENT && DividerMessage(message)) return TRUE;
+      break;
+    case WM_LBUTTONDOWN:
+      DividerMessage(message);
+      return 0;
     case WM_MOUSEMOVE:
-      if (m_dragging) Drag();
+      if (!DividerMessage(message) && m_dragging) Drag();
       return 0;
     case WM_LBUTTONUP:
-      EndDrag(true);
+      if (!DividerMessage(message)) EndDrag(true);
       return 0;
     case WM_CAPTURECHANGED:
-      EndDrag(false);
+      if (!DividerMessage(message)) EndDrag(false);
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE) break;

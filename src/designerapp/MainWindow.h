@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "designerapp/Dividers.h"
 #include "designerapp/DocumentFiles.h"
 #include "designerapp/FindingsPane.h"
 #include "designerapp/PreviewMenu.h"
@@ -39,6 +40,7 @@ class MainWindow : public Window, private designer::EditListener {
   void MakeParts();
   void Resolution(UINT dpi);
   void Arrange();
+  bool DividerMessage(UINT message);
   LRESULT Notify(NMHDR& header);
   bool Command(int id);
   bool FileCommand(int id);
@@ -91,6 +93,8 @@ class MainWindow : public Window, private designer::EditListener {
   UniqueKeys m_treeKeys;  // where no text is edited
   std::wstring m_searched;
   bool m_dragging = false;
+  Dividers m_dividers;
+  Dividers::Divider m_moving = Dividers::Divider::None;  // the one that the mouse holds
 };
 
 }  // namespace orvane::designerapp

@@ -17,7 +17,7 @@ using Bits = std::int32_t clsOrvaneData::*;
 using Text = FieldText clsOrvaneData::*;
 
 constexpr int LastSpecialFolder = 0x3D;
-constexpr const wchar_t* KeysOfMenuBar = L"feivh";
+constexpr const wchar_t* KeysOfMenuBar = L"feivth";
 
 std::wstring Wide(std::string_view text) {
   return FromUtf8(text).value_or(std::wstring());

@@ -148,6 +148,25 @@ TEST(Mouse, DragsItemsAndDropsFilesIntoTheMenu) {
   EXPECT_TRUE(designer.Root().children[2]->data.IsTypeFolder());
 }
 
+TEST(Dividers, AreMovedByMouseAndKeys) {
+  Designer designer;
+  designer.Fill();
+  designer.Open();
+  const auto edge = [&] {
+    RECT rect{};
+    GetWindowRect(designer.Tree(), &rect);
+    return POINT{rect.right, rect.bottom};
+  };
+  const POINT before = edge();
+  User::Drag({before.x + 2, before.y - 50}, {before.x + 82, before.y - 90});
+  const POINT drawn = edge();
+  EXPECT_EQ(drawn.y, before.y);
+  EXPECT_NEAR(drawn.x, before.x + 82, 3);
+  User().Type(L"^+{LEFT}").Type(L"^+{UP}");
+  EXPECT_LT(edge().x, drawn.x);
+  EXPECT_LT(edge().y, before.y);
+}
+
 TEST(SecondStart, HandsItsFileOverAndBothAreRecentFiles) {
   Designer other(L"other.cfg");
   other.Fill();

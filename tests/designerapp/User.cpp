@@ -12,6 +12,8 @@ const std::map<std::wstring, WORD> Names = {
     {L"HOME", VK_HOME},    {L"END", VK_END},    {L"SPACE", VK_SPACE}, {L"F2", VK_F2},
     {L"F5", VK_F5},        {L"F6", VK_F6}};
 
+const std::map<wchar_t, WORD> Held = {{L'^', VK_CONTROL}, {L'%', VK_MENU}, {L'+', VK_SHIFT}};
+
 }  // namespace
 
 void User::Key(WORD key, bool up) {
@@ -35,8 +37,8 @@ void User::Letter(wchar_t letter) {
 void User::Send(const std::wstring& keys) {
   std::vector<WORD> held;
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    if (keys[i] == L'^' || keys[i] == L'%') {
-      held.push_back(keys[i] == L'^' ? VK_CONTROL : VK_MENU);
+    if (const auto modifier = Held.find(keys[i]); modifier != Held.end()) {
+      held.push_back(modifier->second);
       Key(held.back(), false);
       continue;
     }

@@ -10,7 +10,7 @@ namespace orvane::test {
 /// Somebody at the keyboard: keys go through the system's queue to the window in front.
 class User {
  public:
-  /// Types text and keys: "{F2}", "{DOWN}", "^" and "%" before a key hold Ctrl and Alt.
+  /// Types text and keys: "{F2}", "{DOWN}", "^", "%" and "+" before a key hold Ctrl, Alt and Shift.
   User& Type(const std::wstring& keys);
   /// The same in a second, for a dialog that the next keys open and that takes a while.
   User& Later(const std::wstring& keys);

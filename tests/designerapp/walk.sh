@@ -14,7 +14,8 @@ leave() {
   if [ -n "$host" ]; then kill "$host" 2>/dev/null || true; fi
   # Whatever came of it: a designer that stays would hold this script's output open.
   timeout 20 wine taskkill /f /im designer.exe >/dev/null 2>&1 || true
-  wine reg delete "$settings" /f /v ShellConfigFile >/dev/null 2>&1 || true
+  wine reg delete "$settings" /f >/dev/null 2>&1 || true
+  wine reg import 'C:\Walk\before.reg' >/dev/null 2>&1 || true
 }
 trap leave EXIT
 
@@ -54,6 +55,8 @@ right_click() {  # what to choose: keys
 rm -rf "$work"
 mkdir -p "$work"
 echo x >"$work/Plans.txt"
+wine reg export "$settings" 'C:\Walk\before.reg' /y >/dev/null 2>&1 || true
+wine reg delete "$settings" /f >/dev/null 2>&1 || true
 wine reg add "$settings" /f /v ShellConfigFile /d 'C:\Walk\Designed.cfg' >/dev/null
 
 right_click Down Down Right d
@@ -83,6 +86,11 @@ sleep 1
 keys Down Right
 shot preview
 keys Escape Escape Escape
+keys alt+t s
+wait_for_window 'Settings'
+shot settings
+keys alt+k Return      # no Task Manager from now on
+sleep 1
 keys alt+F4
 for _ in $(seq 50); do
   xdotool search --onlyvisible --name 'Orvane Designer' >/dev/null 2>&1 || break
@@ -94,4 +102,5 @@ grep -A40 'Orvane' "$work/host.txt" >"$work/menu.txt" || true
 expected=$(printf 'Tools\nDocuments\nListing')
 shown=$(grep -oE 'Listing|Tools|Documents' "$work/menu.txt")
 [ "$shown" = "$expected" ] || complain "the menu shows: $(cat "$work/host.txt")"
+if grep -q 'Task Manager' "$work/host.txt"; then complain 'the menu does not obey the settings'; fi
 echo "the walk is done"
