@@ -27,9 +27,9 @@ elseif(WIN32)
   target_link_options(orvane_test_flags INTERFACE -s)
 endif()
 if(ORVANE_SANITIZE)
-  add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined
+  add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=${ORVANE_SANITIZE}
                       -fno-sanitize-recover=undefined)
-  add_link_options(-fsanitize=address,undefined)
+  add_link_options(-fsanitize=${ORVANE_SANITIZE})
 elseif(ORVANE_FUZZ)
   add_compile_options(-O1 -g1 -fno-omit-frame-pointer -fsanitize=fuzzer-no-link,address,undefined
                       -fno-sanitize-recover=undefined)

@@ -16,6 +16,9 @@ struct WrittenName {
     return folder.find(character) != std::wstring_view::npos ||
            name.find(character) != std::wstring_view::npos;
   }
+  bool EndsWith(wchar_t character) const {
+    return (name.empty() ? folder : name).ends_with(character);
+  }
 };
 
 /// What a walk over the selection makes of the names that it finds.

@@ -9,8 +9,8 @@
 
 namespace orvane {
 
-std::int32_t Selection::Capture(Shell& shell, FileReader& files, const ItemIdList& folderId,
-                                std::shared_ptr<DataObject> data) {
+std::int32_t Selection::Capture(Shell& shell, FileReader& files, const Patience& patience,
+                                const ItemIdList& folderId, std::shared_ptr<DataObject> data) {
   *this = Selection();
   if (folderId) folder = PidlToPath(shell, folderId);
   dataObject = std::move(data);
@@ -27,9 +27,9 @@ std::int32_t Selection::Capture(Shell& shell, FileReader& files, const ItemIdLis
   if (count == 1) {
     Log(L"m_lSelectionCount=", count);
     onlyItem = first;
-    if (FileExists(files, first)) file = first;
+    if (FileExists(files, first, patience)) file = first;
   }
-  if (folder.empty()) folder = GetFolderOfPath(files, first);
+  if (folder.empty()) folder = GetFolderOfPath(files, first, patience);
   return 0;
 }
 

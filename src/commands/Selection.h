@@ -20,9 +20,10 @@ struct Selection {
   std::wstring file;      // the one selected item, when it is a file
 
   /// Takes the folder (may be none) and the data object (may be null) in place of what was held.
-  /// Returns 0 or the HRESULT with which the data object refused its files.
-  std::int32_t Capture(Shell& shell, FileReader& files, const ItemIdList& folderId,
-                       std::shared_ptr<DataObject> data);
+  /// Returns 0 or the HRESULT with which the data object refused its files. What does not answer in
+  /// time is taken for a file that is not there.
+  std::int32_t Capture(Shell& shell, FileReader& files, const Patience& patience,
+                       const ItemIdList& folderId, std::shared_ptr<DataObject> data);
 };
 
 }  // namespace orvane

@@ -71,7 +71,7 @@ Error FileError(std::uint32_t code) {
 
 std::optional<FileFailure> WriteSelectionFile(FileSystem& files, const std::wstring& path,
                                               std::span<const std::byte> bytes) {
-  if (!files.Attributes(path)) return Write(files, path, true, bytes);
+  const bool isNew = !files.Attributes(path);
   const std::wstring beside = FreeName(files, path);
   std::optional<FileFailure> failure = Write(files, beside, true, bytes);
   if (failure && failure->opened) return failure;
@@ -79,7 +79,7 @@ std::optional<FileFailure> WriteSelectionFile(FileSystem& files, const std::wstr
     if (files.Replace(beside, path)) return std::nullopt;
     files.Remove(beside);
   }
-  return Write(files, path, false, bytes);
+  return Write(files, path, isNew, bytes);
 }
 
 }  // namespace orvane

@@ -10,16 +10,18 @@ namespace {
 
 /// A bare name would be looked for in the current folder, which may be the very folder that was
 /// right-clicked: whoever can put a file there would have his keystrokes typed.
-std::vector<std::byte> Bytes(FileReader& files, const std::wstring& path) {
+std::vector<std::byte> Bytes(FileReader& files, const std::wstring& path,
+                             const Patience& patience) {
   if (!IsFullPath(path)) return {};
-  auto bytes = files.Read(path, ActionsFile::MaxSize, Patience::Menu);
+  auto bytes = files.Read(path, ActionsFile::MaxSize, patience);
   return bytes ? std::move(*bytes) : std::vector<std::byte>();
 }
 
 }  // namespace
 
-ActionsFile::ActionsFile(FileReader& files, const CodePage& codePage, const std::wstring& path)
-    : m_text(Bytes(files, path), codePage) {
+ActionsFile::ActionsFile(FileReader& files, const CodePage& codePage, const std::wstring& path,
+                         const Patience& patience)
+    : m_text(Bytes(files, path, patience), codePage) {
   Log(L"szPath=", path);
 }
 

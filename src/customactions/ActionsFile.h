@@ -22,7 +22,8 @@ class ActionsFile {
  public:
   static constexpr std::size_t MaxSize = 16u << 20;  // bytes
 
-  ActionsFile(FileReader& files, const CodePage& codePage, const std::wstring& path);
+  ActionsFile(FileReader& files, const CodePage& codePage, const std::wstring& path,
+              const Patience& patience = Patience::Chosen);
   ActionsFile(std::span<const std::byte> bytes, const CodePage& codePage)
       : m_text(bytes, codePage) {}
 

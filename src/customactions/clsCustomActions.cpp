@@ -60,10 +60,11 @@ std::int32_t clsCustomActions::LoadEx(std::vector<std::wstring>& szSectionsArray
   return actions.Count();
 }
 
-std::int32_t clsCustomActions::Count(std::int32_t lType, const std::wstring& szPath) {
+std::int32_t clsCustomActions::Count(std::int32_t lType, const std::wstring& szPath,
+                                     const Patience& patience) {
   TraceScope scope(L"Count");
   Log(L"lType=", lType, L"  szPath=", szPath);
-  const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath));
+  const ActionsFile file(m_services.files, m_services.codePage, PathOr(szPath), patience);
   const std::vector<std::wstring> ids = file.Ids();
   return static_cast<std::int32_t>(std::count_if(ids.begin(), ids.end(), [&](const auto& id) {
     return lType == TypeAny || Number(file, id, L"Type", L"-1") == lType;

@@ -7,6 +7,7 @@
 #include "customactions/ActionScript.h"
 #include "customactions/CustomAction.h"
 #include "platform/Handles.h"
+#include "platform/Patience.h"
 
 namespace orvane {
 
@@ -52,7 +53,8 @@ class clsCustomActions : public CustomAction {
                       const std::wstring& szPath, bool bIgnoreDisabled);
 
   /// Number of actions of a type (TypeAny: all), enabled or not.
-  std::int32_t Count(std::int32_t lType, const std::wstring& szPath);
+  std::int32_t Count(std::int32_t lType, const std::wstring& szPath,
+                     const Patience& patience = Patience::Chosen);
 
   /// Reads one action; false when it has no description.
   bool Load(const std::wstring& szId, const std::wstring& szPath);

@@ -62,16 +62,23 @@ class FileSystem::Output : public OutputFile {
   }
 
   bool Write(std::span<const std::byte> bytes) override {
-    if (m_files.m_faults.Hit()) return m_files.Fail(IoFailure), false;
+    if (m_files.m_faults.Hit()) {
+      Take(bytes.first(bytes.size() / 2));
+      return m_files.Fail(IoFailure), false;
+    }
     if (m_files.In(Trouble::Full, m_names)) return m_files.Fail(DiskFull), false;
-    std::vector<std::byte>& content = *m_node.Content();
-    content.insert(content.end(), bytes.begin(), bytes.end());
-    m_text += DecodeAnsi(bytes);
-    m_record = true;
+    Take(bytes);
     return true;
   }
 
  private:
+  void Take(std::span<const std::byte> bytes) {
+    std::vector<std::byte>& content = *m_node.Content();
+    content.insert(content.end(), bytes.begin(), bytes.end());
+    m_text += DecodeAnsi(bytes);
+    m_record = true;
+  }
+
   FileSystem& m_files;
   Names m_names;
   FileNode& m_node;

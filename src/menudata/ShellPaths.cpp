@@ -63,31 +63,22 @@ std::wstring GetDisplayName(Shell& shell, const std::wstring& path) {
   return shell.DisplayName(path);
 }
 
-namespace {
-
-/// Waits for a share a moment only. A drive's kind is not asked for, which takes longer than asking
-/// a local file itself.
-Patience MenuPatience(const std::wstring& path) {
-  return path.starts_with(L"\\\\") ? Patience::Menu : Patience::Endless;
-}
-
-}  // namespace
-
 bool IsDirectory(FileReader& files, const std::wstring& path, const Patience& patience) {
   const auto attributes = files.Attributes(path, patience);
   return attributes && (*attributes & FileAttribute::Directory) != 0;
 }
 
-std::wstring GetFolderOfPath(FileReader& files, const std::wstring& path) {
+std::wstring GetFolderOfPath(FileReader& files, const std::wstring& path,
+                             const Patience& patience) {
   const std::size_t cut = path.rfind(L'\\');
-  if (cut == std::wstring::npos || IsDirectory(files, path, MenuPatience(path))) return path;
+  if (cut == std::wstring::npos || IsDirectory(files, path, patience)) return path;
   std::wstring folder = path.substr(0, cut);
   if (folder.size() == 2 && folder[1] == L':') folder.push_back(L'\\');
   return folder;
 }
 
-bool FileExists(FileReader& files, const std::wstring& path) {
-  const auto attributes = files.Attributes(path, MenuPatience(path));
+bool FileExists(FileReader& files, const std::wstring& path, const Patience& patience) {
+  const auto attributes = files.Attributes(path, patience);
   return attributes && (*attributes & FileAttribute::Directory) == 0;
 }
 

@@ -25,8 +25,10 @@ std::wstring GetDisplayName(Shell& shell, const std::wstring& path);
 bool IsDirectory(FileReader& files, const std::wstring& path,
                  const Patience& patience = Patience::Endless);
 /// The folder a path lies in; a folder is its own, a drive's root keeps its backslash.
-std::wstring GetFolderOfPath(FileReader& files, const std::wstring& path);
+std::wstring GetFolderOfPath(FileReader& files, const std::wstring& path,
+                             const Patience& patience = Patience::Chosen);
 /// A file of that name is there; a folder does not count.
-bool FileExists(FileReader& files, const std::wstring& path);
+bool FileExists(FileReader& files, const std::wstring& path,
+                const Patience& patience = Patience::Chosen);
 
 }  // namespace orvane

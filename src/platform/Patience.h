@@ -14,8 +14,9 @@ namespace orvane {
 class Patience {
  public:
   static constexpr std::uint32_t Endless = 0xFFFF'FFFF;
-  static constexpr std::uint32_t Menu = 1000;  // milliseconds that a menu may be held up
-  static constexpr std::uint32_t Slice = 50;   // milliseconds from one question to the next
+  static constexpr std::uint32_t Menu = 200;     // milliseconds that building a menu may be held up
+  static constexpr std::uint32_t Chosen = 1000;  // the same for what its user opens or chooses
+  static constexpr std::uint32_t Slice = 50;     // milliseconds from one question to the next
 
   /// `goOn` is asked during the wait; false ends it, as a user's Cancel does.
   Patience(std::uint32_t milliseconds, std::function<bool()> goOn = {})

@@ -84,7 +84,8 @@ void ContextMenuHandler::CountWindowActions() noexcept {
   try {
     clsCustomActions actions(m_globals.actionServices);
     m_state.windowActions =
-        actions.Count(clsCustomActions::TypeWindow, m_globals.options.m_szShellCustomActionsFile);
+        actions.Count(clsCustomActions::TypeWindow, m_globals.options.m_szShellCustomActionsFile,
+                      m_state.patience);
   } catch (...) {
     const PendingError error = CaughtError();
     Log(L"Error: ", error.number, L" - ", error.description);
@@ -121,7 +122,8 @@ std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
   try {
     Log(L"pidlFolder=", Hex(pidlFolder.bytes.data()), L"  hKeyProgID=", hKeyProgID);
     const std::int32_t result = m_state.selection.Capture(
-        m_globals.platform.shell, m_globals.platform.files, pidlFolder, std::move(pSelectionObj));
+        m_globals.platform.shell, m_globals.platform.files, m_state.patience, pidlFolder,
+        std::move(pSelectionObj));
     if (result != 0) return result;
     Log(L"CurrentFolder=", m_state.selection.folder);
     Log(L"CurrentFile=", m_state.selection.file);

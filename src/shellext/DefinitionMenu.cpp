@@ -41,7 +41,7 @@ const ItemKind* FindKind(std::int32_t type) {
 
 bool DefinitionMenu::Read() {
   auto bytes = m_globals.platform.files.Read(m_globals.options.m_szShellConfigFile,
-                                             FileReader::MaxSize, Patience::Menu);
+                                             FileReader::MaxSize, m_state.patience);
   if (!bytes || bytes->empty()) return true;
   DefinitionFile file(std::move(*bytes), m_globals.codePage, &m_state.commands.Memory());
   return ReadFile(file);

@@ -87,7 +87,7 @@ bool DynamicFolders::TakeNoAnswerId() {
 bool DynamicFolders::List(const clsOrvaneData& folder, Listed& listed) {
   std::wstring path = folder.Location();
   if (!path.ends_with(L'\\')) path += L'\\';
-  const Patience patience = Patience::Menu;
+  const Patience patience = Patience::Chosen;
   const auto listing = m_globals.platform.files.List(path, patience);
   if (!listing) return !patience.HasRunOut();
 

@@ -15,6 +15,7 @@ namespace orvane {
 struct HandlerState {
   HandlerState(Gdi& gdi, ShellIcons& icons, FileReader& files) : pictures(gdi, icons, files) {}
 
+  Patience patience = Patience::Menu;  // for all that is read until the menu is built
   Selection selection;
 
   MenuHandle shellMenu = MenuHandle::None;  // the shell's

@@ -6,6 +6,7 @@
 
 #include "support/Utf16.h"
 #include "win32/GrowingText.h"
+#include "win32/UniqueHandle.h"
 
 namespace orvane::win32 {
 
@@ -25,9 +26,31 @@ RegistryValue Expanded(const RegistryValue& value) {
   return {RegistryValue::Text, ToUtf16(expanded)};
 }
 
+/// The right to write, which one key of the session has at a time: two windows that save one list
+/// would else leave some entries of each. Whoever has it for long is not waited for.
+class WriteTurn {
+ public:
+  WriteTurn() : m_mutex(CreateMutexW(nullptr, FALSE, L"Local\\Tarnwick.Orvane.Registry")) {
+    const DWORD answer = m_mutex ? WaitForSingleObject(m_mutex.get(), Limit) : WAIT_FAILED;
+    m_isOurs = answer == WAIT_OBJECT_0 || answer == WAIT_ABANDONED;
+  }
+  ~WriteTurn() {
+    if (m_isOurs) ReleaseMutex(m_mutex.get());
+  }
+  WriteTurn(const WriteTurn&) = delete;
+  WriteTurn& operator=(const WriteTurn&) = delete;
+
+ private:
+  static constexpr DWORD Limit = 500;  // milliseconds
+
+  UniqueKernelHandle m_mutex;
+  bool m_isOurs = false;
+};
+
 class Key : public RegistryKey {
  public:
-  explicit Key(UniqueKey key) : m_key(std::move(key)) {}
+  explicit Key(UniqueKey key, std::unique_ptr<WriteTurn> turn = nullptr)
+      : m_turn(std::move(turn)), m_key(std::move(key)) {}
 
   std::int32_t Read(const std::wstring& name, RegistryValue& value) override {
     const std::int32_t error = ReadStored(name, value);
@@ -64,6 +87,7 @@ class Key : public RegistryKey {
     return 0;
   }
 
+  std::unique_ptr<WriteTurn> m_turn;  // of a key that is written
   UniqueKey m_key;
 };
 
@@ -107,7 +131,8 @@ std::int32_t Registry::OpenToWrite(Hive hive, const std::wstring& path,
   const LSTATUS result = RegCreateKeyExW(
       RootKey(hive), WithoutBackslash(path).c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
       KEY_SET_VALUE | KEY_CREATE_SUB_KEY, nullptr, &opened, nullptr);
-  if (result == ERROR_SUCCESS) key = std::make_unique<Key>(UniqueKey(opened));
+  if (result == ERROR_SUCCESS)
+    key = std::make_unique<Key>(UniqueKey(opened), std::make_unique<WriteTurn>());
   return result;
 }
 

@@ -36,6 +36,9 @@ TEST_F(SelectionTask, CommandGetsTheNamesRunTogether) {
   EXPECT_EQ(Run(), (Lines{"ShellExecuteEx file=C:\\Tools\\show.exe "
                           "parameters=\"C:\\Notes\\a.txt\"\"C:\\Notes\\b b.doc\" "
                           "directory=C:\\Tools show=5"}));
+  Select({L"C:\\"});
+  EXPECT_EQ(Run(), (Lines{"ShellExecuteEx file=C:\\Tools\\show.exe parameters=\"C:\\\\\" "
+                          "directory=C:\\Tools show=5"}));
   item.m_szSelection_Parms = L"/x [orv_item] [orv_selection";  // no end: goes as it is
   EXPECT_EQ(Run(), (Lines{"ShellExecuteEx file=C:\\Tools\\show.exe "
                           "parameters=/x [orv_item] [orv_selection directory=C:\\Tools show=5"}));

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <iterator>
 #include <string>

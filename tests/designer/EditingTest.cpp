@@ -1,4 +1,7 @@
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <random>
 
 #include "designer/Desk.h"
 #include "designer/Monkey.h"
@@ -47,7 +50,7 @@ TEST_P(SequencesOfEdits, AreUndoneToTheFirstMenuAndRedoneToTheLast) {
     mirror.Inserted(desk.Root());
     desk.document.Listen(&mirror);
     const std::vector<std::byte> first = desk.Bytes();
-    Monkey monkey(desk, GetParam() * 1000 + sequence);
+    Monkey monkey(desk, std::mt19937(GetParam() * 1000 + sequence));
     for (unsigned steps = 10 + sequence % 30; steps-- > 0;) monkey.Act();
     while (desk.Edits().NextRedo()) desk.Edits().Redo();
     const std::vector<std::byte> last = desk.Bytes();

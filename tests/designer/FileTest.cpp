@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "designer/Desk.h"
 #include "shellext/ContextMenuHandler.h"
 
@@ -52,6 +54,42 @@ TEST(Saving, ThatFailsSaysWhereAndLosesNothing) {
     EXPECT_TRUE(desk.document.IsDirty());
     desk.document.Save(L"C:\\elsewhere.cfg");
     EXPECT_FALSE(desk.document.IsDirty());
+  }
+}
+
+TEST(Saving, LeavesEveryFileWholeWhicheverCallFailsAndWhereverItAllEnds) {
+  const std::wstring paths[] = {MenuPath, std::wstring(MenuPath) + L".bak", L"C:\\menu.json"};
+  using Contents = std::vector<std::optional<std::string>>;
+  for (const bool ends : {false, true}) {
+    Contents whole;
+    std::size_t calls = 0;
+    for (std::size_t n = 0; n <= calls; ++n) {
+      SCOPED_TRACE(testing::Message() << "call " << n << ends);
+      Desk desk;
+      desk.document.Save(MenuPath);
+      desk.AddSome();
+      desk.desktop.files.AddFile(paths[2], "old");
+      const auto contents = [&] {
+        Contents all;
+        for (const std::wstring& path : paths) all.push_back(desk.desktop.files.Content(path));
+        return all;
+      };
+      const Contents before = contents();
+      memory::Faults& faults = desk.desktop.faults;
+      ends ? faults.FailFrom(n) : faults.FailCall(n);
+      const bool saved = ErrorOf([&] { desk.document.Save(MenuPath); }).empty();
+      const bool written =
+          ErrorOf([&] { desk.document.Export(paths[2], desk.desktop.files); }).empty();
+      if (n == 0) calls = faults.Calls();
+      faults.FailCall(0);
+      const Contents after = contents();
+      if (n == 0) whole = after;
+      for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_TRUE(after[i] == before[i] || after[i] == whole[i]) << i;
+      EXPECT_TRUE(!saved || after[0] == whole[0]);
+      EXPECT_TRUE(!written || after[2] == whole[2]);
+      EXPECT_EQ(desk.document.IsDirty(), !saved);
+    }
   }
 }
 

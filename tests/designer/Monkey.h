@@ -1,6 +1,6 @@
 #pragma once
 
-#include <random>
+#include <functional>
 
 #include "designer/Desk.h"
 
@@ -19,10 +19,10 @@ inline Items AllOf(MenuItem& top) {
   return items;
 }
 
-/// Does things to a menu at random.
+/// Does things to a menu as its source of numbers has it.
 class Monkey {
  public:
-  Monkey(Desk& desk, unsigned seed) : m_desk(desk), m_random(seed) {}
+  Monkey(Desk& desk, std::function<std::size_t()> next) : m_desk(desk), m_next(std::move(next)) {}
 
   void Act() {
     designer::History& edits = m_desk.Edits();
@@ -65,7 +65,7 @@ class Monkey {
   }
 
  private:
-  std::size_t Below(std::size_t limit) { return m_random() % limit; }
+  std::size_t Below(std::size_t limit) { return m_next() % limit; }
 
   MenuItem* Any() {
     const Items items = AllOf(m_desk.Top());
@@ -92,7 +92,7 @@ class Monkey {
   }
 
   Desk& m_desk;
-  std::mt19937 m_random;
+  std::function<std::size_t()> m_next;
   std::string m_text;
 };
 

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "designer/Preview.h"
 
 #include "commands/TaskText.h"

@@ -10,83 +10,19 @@
 #include "host/LeakCount.h"
 #include "host/Library.h"
 #include "host/Scene.h"
-#include "host/SharedMenu.h"
-#include "menudata/clsOrvaneData.h"
+#include "host/WholeClick.h"
 
 namespace orvane::host {
 namespace {
 
-using Item = clsOrvaneData;
-
-/// A surface for one entry.
-class Surface {
- public:
-  Surface() : m_old(SelectObject(context, m_bitmap)) {}
-  ~Surface() {
-    SelectObject(context, m_old);
-    DeleteObject(m_bitmap);
-    DeleteDC(context);
-  }
-  Surface(const Surface&) = delete;
-  Surface& operator=(const Surface&) = delete;
-
-  const HDC context = CreateCompatibleDC(nullptr);
-
- private:
-  const HBITMAP m_bitmap = CreateBitmap(300, 30, 1, 32, nullptr);
-  const HGDIOBJ m_old;
-};
-
-void PaintAndAskAbout(IContextMenu3& handler, UINT id, HDC context) {
-  LRESULT result = 0;
-  MEASUREITEMSTRUCT measure{};
-  measure.CtlType = ODT_MENU;
-  measure.itemID = id;
-  handler.HandleMenuMsg2(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure), &result);
-  EXPECT_GT(measure.itemWidth, 25u) << id;
-  DRAWITEMSTRUCT draw{};
-  draw.CtlType = ODT_MENU;
-  draw.itemID = id;
-  draw.hDC = context;
-  draw.rcItem = {0, 0, 300, 30};
-  handler.HandleMenuMsg2(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw), &result);
-  wchar_t text[200];
-  for (const UINT what : {GCS_VERBA, GCS_HELPTEXTA, GCS_VERBW, GCS_HELPTEXTW, GCS_VALIDATEW})
-    handler.GetCommandString(id - 1, what, nullptr, reinterpret_cast<char*>(text), 100);
-}
-
-/// Opens the submenu and all below it.
-void Walk(IContextMenu3& handler, HMENU menu, HDC context) {
-  LRESULT result = 0;
-  handler.HandleMenuMsg2(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0, &result);
-  handler.HandleMenuMsg2(WM_MENUCHAR, 'a', reinterpret_cast<LPARAM>(menu), &result);
-  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-    if (const UINT id = IdAt(menu, i)) PaintAndAskAbout(handler, id, context);
-    if (const HMENU submenu = GetSubMenu(menu, i)) Walk(handler, submenu, context);
-  }
-}
-
 TEST(LongLife, AThousandWholeRightClicksHoldNothing) {
-  const Apartment apartment;
-  Scene scene;
-  scene.Set(L"ShellShowIcons", 3);
-  scene.Set(L"ShellShowHistoryMRU", 2);
-  scene.Set(L"ShellConfigFile", scene.Path(L"Menu.cfg"));
-  WriteDefinition(scene.Path(L"Menu.cfg"),
-                  {{0, Item::TypeRoot, 0, {L"Orvane"}},
-                   {1, Item::TypePopupMenu, 0, {L"Popup"}},
-                   {2, Item::TypeDynamicFolder, 0, {scene.Folder(), L"Test", L"*.txt", L"0"}},
-                   {1, Item::TypeFile, 0, {scene.Path(L"a.txt"), L"A"}},
-                   {1, Item::TypeFolder, 0, {L"5", L"Documents", L"1"}},
-                   {1, Item::TypeCustomAction, 0, {L"", L"Nothing"}}});
-  const ComPtr<IDataObject> selection = Select(scene.Folder(), {L"a.txt"});
-  const Surface surface;
+  WholeClick click;
   const auto clickOften = [&](int times) {
     for (int i = 0; i < times; ++i) {
-      RightClick click(scene.Folder(), selection.Get());
-      click.Query();
-      Walk(*click.handler.Get(), FindSubmenu(click.menu, L"Orvane"), surface.context);
-      EXPECT_TRUE(click.Choose(L"Nothing"));
+      const WholeClick::Outcome outcome = click.Run();
+      EXPECT_TRUE(outcome.count > 0 && outcome.unmeasured == 0 && outcome.chosen &&
+                  outcome.isRestored)
+          << i;
     }
     return LeakCount::Now();
   };

@@ -14,6 +14,7 @@
 #include "host/Definition.h"
 #include "host/Effects.h"
 #include "host/Library.h"
+#include "host/Modes.h"
 #include "host/Scene.h"
 #include "menudata/clsOrvaneData.h"
 
@@ -129,7 +130,9 @@ TEST_F(Launch, GivesEachNameAsOneArgument) {
                                            L"[orv_item]",
                                            L"a;b,c=.txt",
                                            L"\u0416\u4e2d.txt",
-                                           L"\u00e9 \U0001F600.txt"};
+                                           L"\u00e9 \U0001F600.txt",
+                                           L"\xD83D.txt",
+                                           L"\xDE00 \xD83D"};
   std::wstring expected;
   for (const std::wstring& name : names) {
     std::ofstream(fs::path(scene.Path(name.c_str()))) << "x";
@@ -137,7 +140,7 @@ TEST_F(Launch, GivesEachNameAsOneArgument) {
   }
   Choose(Task(HostPath(), L"--write \"" + started + L"\" [orv_selection]"), names);
   const std::wstring record = WaitForFile(started);
-  EXPECT_EQ(record.substr(record.find(L'\n') + 1), expected);
+  EXPECT_EQ(record.substr(record.find(L'\n') + 1), WithSurrogatesSpelt(expected));
 }
 
 /// Modules of this process that were loaded from the folder.

@@ -14,6 +14,12 @@ int ShowMenu(const std::wstring& folder, const std::vector<std::wstring>& names)
 /// Times whole right-clicks against a loop of the same platform calls with nothing around them.
 int RunBench();
 
+/// Saves a list of such texts under a test's key, many times.
+int SaveListOften(const std::wstring& text);
+
+/// The text with its surrogates as "<D83D>", so that unpaired ones survive UTF-8.
+std::wstring WithSurrogatesSpelt(const std::wstring& text);
+
 /// Names the record of a start in the place of the command interpreter.
 inline constexpr wchar_t PromptRecord[] = L"ORVANE_PROMPT_RECORD";
 

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "common/Watchdog.h"
 #include "host/Library.h"
@@ -39,7 +40,7 @@ int WriteWhole(const std::wstring& path, const std::wstring& text) {
 int RecordStart(const std::wstring& path, const std::vector<std::wstring>& arguments) {
   std::wstring text = std::filesystem::current_path().wstring() + L'\n';
   for (const std::wstring& argument : arguments) text += argument + L'\n';
-  return WriteWhole(path, text);
+  return WriteWhole(path, WithSurrogatesSpelt(text));
 }
 
 /// Whether this is a copy under another program's name, which nothing should start.
@@ -72,6 +73,18 @@ int ShowEdit() {
 }
 
 }  // namespace
+
+std::wstring WithSurrogatesSpelt(const std::wstring& text) {
+  std::wstring spelt;
+  for (const wchar_t c : text) {
+    wchar_t number[8] = {c};
+    if (c >= 0xD800 && c < 0xE000)
+      swprintf(number, std::size(number), L"<%04X>", static_cast<unsigned>(c));
+    spelt += number;
+  }
+  return spelt;
+}
+
 }  // namespace orvane::host
 
 int main(int argc, char** argv) {
@@ -90,6 +103,7 @@ int main(int argc, char** argv) {
   if (mode == L"--clipboard" && arguments.size() > 1) {
     return RecordClipboard(arguments[1]);
   }
+  if (mode == L"--save-list" && arguments.size() > 1) return SaveListOften(arguments[1]);
   if (mode == L"--edit") return ShowEdit();
   if (mode == L"/k") return RecordStart(_wgetenv(PromptRecord), {});
   testing::InitGoogleTest(&argc, argv);

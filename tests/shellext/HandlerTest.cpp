@@ -31,7 +31,7 @@ TEST(Selection, TellsWhatTheMenuIsFor) {
     const ItemIdList folder = *row.folder ? memory::Shell::ItemOf(row.folder) : ItemIdList();
     Selection selection;
     selection.file = L"of an earlier call";
-    EXPECT_EQ(selection.Capture(desktop.shell, desktop.files, folder, data), 0);
+    EXPECT_EQ(selection.Capture(desktop.shell, desktop.files, Patience::Menu, folder, data), 0);
     EXPECT_EQ(selection.folder, row.currentFolder);
     EXPECT_EQ(selection.file, row.currentFile);
     EXPECT_EQ(selection.onlyItem, row.selectedItem);
