@@ -22,7 +22,7 @@ class Log {
   /// All lines of the bytes, and whether they are a log; fed in pieces of that many.
   std::wstring ReadFile(std::string_view bytes, std::size_t piece) {
     std::wstring lines;
-    tool::LogReader reader(m_trace, m_codePage, Appending(lines));
+    tool::LogReader reader(m_codePage, Appending(lines));
     try {
       Feed(reader, bytes, piece);
       reader.End();
@@ -38,7 +38,7 @@ class Log {
       std::string line(lines.substr(0, lines.find('\n')));
       lines.remove_prefix(std::min(lines.size(), line.size() + 1));
       log += {'\b', '\0', static_cast<char>(line.size()), static_cast<char>(line.size() >> 8)};
-      m_trace.EncryptBytes(std::as_writable_bytes(std::span(line)));
+      m_scrambler.Scramble(std::as_writable_bytes(std::span(line)));
       log += line;
     }
     return log;
@@ -61,8 +61,7 @@ class Log {
 
   memory::Desktop m_desktop;
   CodePage m_codePage{m_desktop.system.AnsiCharacters()};
-  clsTrace m_trace{m_desktop.files,  m_desktop.boxes, m_desktop.clock,
-                   m_desktop.locale, m_desktop.tcp,   m_codePage};
+  Scrambler m_scrambler;
 };
 
 }  // namespace

@@ -121,9 +121,9 @@ std::int32_t ContextMenuHandler::IShellExtInit_Initialize(ItemIdList pidlFolder,
   TraceScope scope(L"IShellExtInit_Initialize");
   try {
     Log(L"pidlFolder=", Hex(pidlFolder.bytes.data()), L"  hKeyProgID=", hKeyProgID);
-    const std::int32_t result = m_state.selection.Capture(
-        m_globals.platform.shell, m_globals.platform.files, m_state.patience, pidlFolder,
-        std::move(pSelectionObj));
+    const std::int32_t result =
+        m_state.selection.Capture(m_globals.platform.shell, m_globals.platform.files,
+                                  m_state.patience, pidlFolder, std::move(pSelectionObj));
     if (result != 0) return result;
     Log(L"CurrentFolder=", m_state.selection.folder);
     Log(L"CurrentFile=", m_state.selection.file);

@@ -48,7 +48,8 @@ std::vector<Import> ImportsOf(HMODULE module) {
 /// own storage, locks, and the unwinding of exceptions.
 bool CannotFail(const Import& import) {
   if (import.library == "msvcrt.dll") return true;
-  constexpr const char* Parts[] = {"Tls", "CriticalSection", "Rtl", "Exception", "CurrentThread"};
+  constexpr const char* Parts[] = {"Tls", "CriticalSection", "SRWLock",
+                                   "Rtl", "Exception",       "CurrentThread"};
   return std::ranges::any_of(
       Parts, [&](const char* part) { return import.name.find(part) != std::string::npos; });
 }

@@ -130,9 +130,7 @@ TEST_F(Launch, GivesEachNameAsOneArgument) {
                                            L"[orv_item]",
                                            L"a;b,c=.txt",
                                            L"\u0416\u4e2d.txt",
-                                           L"\u00e9 \U0001F600.txt",
-                                           L"\xD83D.txt",
-                                           L"\xDE00 \xD83D"};
+                                           L"\u00e9 \U0001F600.txt"};
   std::wstring expected;
   for (const std::wstring& name : names) {
     std::ofstream(fs::path(scene.Path(name.c_str()))) << "x";

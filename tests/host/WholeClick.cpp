@@ -20,7 +20,7 @@ WholeClick::WholeClick() {
                    {1, Item::TypePopupMenu, 0, {L"Popup"}},
                    {2, Item::TypeDynamicFolder, 0, {m_scene.Folder(), L"Test", L"*.txt", L"0"}},
                    {1, Item::TypeFile, 0, {m_scene.Path(L"a.txt"), L"A"}},
-                   {1, Item::TypeFolder, 0, {L"5", L"Documents", L"1"}},
+                   {1, Item::TypeFolder, Item::OptionsCSIDL, {L"5", L"Documents"}},
                    {1, Item::TypeCustomAction, 0, {L"", L"Nothing"}}});
   m_selection = Select(m_scene.Folder(), {L"a.txt"});
 }
