@@ -1,5 +1,6 @@
 #include "designer/Rehearsal.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace orvane::designer {
@@ -47,6 +48,10 @@ class BriefView : public ProgressView {
   Clock::time_point m_start = Clock::now();
 };
 
+std::wstring Writing(const std::wstring& path) {
+  return L"Writes the file " + path + L'.';
+}
+
 std::wstring Waiting(std::uint32_t milliseconds) {
   return L"Waits " + std::to_wstring(milliseconds) + L" milliseconds.";
 }
@@ -61,12 +66,13 @@ std::optional<std::vector<std::byte>> RehearsedFiles::Read(const std::wstring& p
 }
 
 std::unique_ptr<OutputFile> RehearsedFiles::OpenToWrite(const std::wstring& path, Open) {
-  m_script.push_back(L"Writes the file " + path + L'.');
+  m_script.push_back(Writing(path));
   return std::make_unique<NoFile>();
 }
 
-bool RehearsedFiles::Replace(const std::wstring&, const std::wstring& to) {
-  m_script.push_back(L"Replaces the file " + to + L'.');
+// What was written beside a file and is moved to its place is written there.
+bool RehearsedFiles::Replace(const std::wstring& from, const std::wstring& to) {
+  std::ranges::replace(m_script, Writing(from), Writing(to));
   return true;
 }
 

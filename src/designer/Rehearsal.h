@@ -57,7 +57,7 @@ class RehearsedFiles : public FileSystem {
   std::wstring WorkingDirectory() override { return m_real.WorkingDirectory(); }
   std::unique_ptr<OutputFile> OpenToWrite(const std::wstring& path, Open how) override;
   bool Remove(const std::wstring&) override { return true; }
-  bool Replace(const std::wstring&, const std::wstring& to) override;
+  bool Replace(const std::wstring& from, const std::wstring& to) override;
   bool ChangeDirectory(const std::wstring&) override { return true; }
   std::uint32_t LastError() const override { return m_real.LastError(); }
 
