@@ -38,13 +38,15 @@ bool MatchString(const MatchText& szSrc, const MatchText& szDest, std::int32_t l
   return result;
 }
 
-bool Passes(const CustomAction& action, const Criterion& criterion, const MatchTarget& target) {
+const MatchText* PassingValue(const CustomAction& action, const Criterion& criterion,
+                              const MatchTarget& target) {
   const MatchText pattern(action.*criterion.pattern);
   const std::int32_t mode = action.*criterion.mode;
-  if (!criterion.value) return MatchString(pattern, target.exe, mode);
-  return std::ranges::any_of(target.chain, [&](const MatchTarget::Window& window) {
+  if (!criterion.value) return MatchString(pattern, target.exe, mode) ? &target.exe : nullptr;
+  const auto passing = std::ranges::find_if(target.chain, [&](const MatchTarget::Window& window) {
     return MatchString(pattern, window.*criterion.value, mode);
   });
+  return passing == target.chain.end() ? nullptr : &((*passing).*criterion.value);
 }
 
 MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd) {

@@ -54,9 +54,10 @@ inline bool IsUsed(const CustomAction& action, const Criterion& criterion) {
   return action.*criterion.mode > CustomAction::OptionMatchIgnore;
 }
 
-/// Whether a used criterion passes: the program is the window's own, not any that happens to run;
-/// of the windows one is enough.
-bool Passes(const CustomAction& action, const Criterion& criterion, const MatchTarget& target);
+/// What of the target passes a used criterion, null when nothing does: the program is the window's
+/// own, not any that happens to run; of the windows the first that passes.
+const MatchText* PassingValue(const CustomAction& action, const Criterion& criterion,
+                              const MatchTarget& target);
 
 MatchTarget LookAtWindow(Windows& windows, clsProcess& process, WindowHandle hWnd);
 

@@ -147,10 +147,11 @@ bool clsCustomActions::MatchWindow_(const std::wstring& szId, const ActionsFile&
   Load(szId, file);
   Log(L"m_szId=", m_szId, L"  m_szDescription=", m_szDescription);
   const auto isUsed = [&](const Criterion& criterion) { return IsUsed(*this, criterion); };
-  const bool matched = std::ranges::any_of(Criteria, isUsed) &&
-                       std::ranges::all_of(Criteria, [&](const Criterion& criterion) {
-                         return !isUsed(criterion) || Passes(*this, criterion, target);
-                       });
+  const bool matched =
+      std::ranges::any_of(Criteria, isUsed) &&
+      std::ranges::all_of(Criteria, [&](const Criterion& criterion) {
+        return !isUsed(criterion) || PassingValue(*this, criterion, target) != nullptr;
+      });
   Log(L"MatchWindow_=", matched);
   return matched;
 }
