@@ -1,17 +1,13 @@
 #include "designerapp/FindingsPane.h"
 
 #include "designerapp/CommandIds.h"
-#include "designerapp/Scale.h"
+#include "designerapp/ListColumns.h"
 #include "menudoc/CheckMenu.h"
 #include "support/Utf8.h"
 
 namespace orvane::designerapp {
 namespace {
 
-struct Column {
-  const wchar_t* title;
-  int width;
-};
 constexpr Column Columns[] = {{L"Finding", 70}, {L"Item", 170}, {L"What", 380}, {L"Remedy", 380}};
 
 }  // namespace
@@ -22,19 +18,11 @@ void FindingsPane::Create(HWND parent) {
                                LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
                            0, 0, 0, 0, parent, reinterpret_cast<HMENU>(IDC_FINDINGS),
                            m_program.instance, nullptr);
-  ListView_SetExtendedListViewStyle(m_list, LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
-  for (int i = 0; const Column& column : Columns) {
-    LVCOLUMNW native{};
-    native.mask = LVCF_TEXT | LVCF_WIDTH;
-    native.pszText = const_cast<wchar_t*>(column.title);
-    native.cx = column.width;
-    ListView_InsertColumn(m_list, i++, &native);
-  }
+  AddColumns(m_list, Columns);
 }
 
 void FindingsPane::Resolution(UINT dpi) {
-  for (int i = 0; const Column& column : Columns)
-    ListView_SetColumnWidth(m_list, i++, Scaled(column.width, dpi));
+  ScaleColumns(m_list, Columns, dpi);
 }
 
 void FindingsPane::Check(bool places) {

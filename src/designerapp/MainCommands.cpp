@@ -2,6 +2,7 @@
 #include <shellapi.h>
 #include <windowsx.h>
 
+#include "designerapp/ActionsDialog.h"
 #include "designerapp/CommandIds.h"
 #include "designerapp/FileDialogs.h"
 #include "designerapp/FindDialog.h"
@@ -185,6 +186,8 @@ bool MainWindow::ViewCommand(int id) {
 bool MainWindow::ToolsCommand(int id) {
   if (id == ID_TOOLS_LISTS)
     ListsDialog(m_program).Show(Handle());
+  else if (id == ID_TOOLS_ACTIONS)
+    ActionsDialog(m_program).Ask(Handle());
   else if (id != ID_TOOLS_SETTINGS)
     return false;
   else if (SettingsDialog(m_program).Ask(Handle()))

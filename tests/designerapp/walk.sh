@@ -38,14 +38,29 @@ wait_for_window() {
   complain "no window '$1'"
 }
 
-right_click() {  # what to choose: keys
+close_designer() {
+  keys alt+F4
+  for _ in $(seq 50); do
+    xdotool search --onlyvisible --name 'Orvane Designer' >/dev/null 2>&1 || break
+    sleep 0.1
+  done
+  sleep 1 # the keyboard goes to the window that is left
+}
+
+start_host() {
   : >"$work/host.txt"
   timeout 60 wine "$bin/orvane_host.exe" --menu 'C:\Walk' Plans.txt >"$work/host.txt" 2>&1 &
   host=$!
   wait_for "$work/host.txt" '^ready'
+}
+right_click() {  # what to choose: keys
+  start_host
+  choose "$@"
+}
+choose() {  # in the host that was started
   xdotool mousemove 120 80 click 3
   wait_for "$work/host.txt" '^open'
-  sleep 0.5
+  sleep 1
   keys "$@"
   wait_for "$work/host.txt" '^chosen'
   wait "$host" || true
@@ -91,11 +106,7 @@ wait_for_window 'Settings'
 shot settings
 keys alt+k Return      # no Task Manager from now on
 sleep 1
-keys alt+F4
-for _ in $(seq 50); do
-  xdotool search --onlyvisible --name 'Orvane Designer' >/dev/null 2>&1 || break
-  sleep 0.1
-done
+close_designer
 
 right_click Escape
 grep -A40 'Orvane' "$work/host.txt" >"$work/menu.txt" || true
@@ -103,4 +114,36 @@ expected=$(printf 'Tools\nDocuments\nListing')
 shown=$(grep -oE 'Listing|Tools|Documents' "$work/menu.txt")
 [ "$shown" = "$expected" ] || complain "the menu shows: $(cat "$work/host.txt")"
 if grep -q 'Task Manager' "$work/host.txt"; then complain 'the menu does not obey the settings'; fi
+
+# An action for the window that is right-clicked: its window is picked with the mouse.
+wine reg add "$settings" /f /v ShellCustomActionsFile /d 'C:\Walk\Actions.ini' >/dev/null
+start_host
+wine "$bin/designer.exe" >/dev/null 2>&1 &
+wait_for_window 'Orvane Designer'
+xdotool search --onlyvisible --name 'Orvane Designer' windowmove 300 0
+sleep 1
+xdotool mousemove 600 300 click 1 # the host has the keyboard
+keys F8
+wait_for_window 'Custom Actions'
+keys alt+n
+text host
+keys alt+r
+text 'go[orv_item'
+shot actions-faults
+text ']{ENTER}'
+place=$(wine "$bin/orvane_host.exe" --place 1531 | tr -d '\r')
+xdotool mousemove $place mousedown 1 mousemove 400 300 mousemove 60 400 mousemove 62 402
+shot actions-picking
+xdotool mouseup 1 mousemove $place
+keys alt+y
+shot actions-test
+keys Escape
+keys alt+v
+shot actions
+keys alt+o
+close_designer
+grep -q 'Class=OrvaneHost' "$work/Actions.ini" || complain "no window was picked: $(cat "$work/Actions.ini")"
+choose Down Down Right Right Return # the folder in the popup
+sed -n 's/^typed //p' "$work/host.txt" | tr -d '\r\n' >"$work/typed.txt"
+grep -q '^goC:.*Documents' "$work/typed.txt" || complain "typed: $(cat "$work/host.txt")"
 echo "the walk is done"

@@ -44,7 +44,7 @@ void MenuWindow::RightClicked(HWND window, POINT at) {
   if (chosen > 0 && chosen < static_cast<int>(OwnCommands)) {
     click.Invoke(static_cast<UINT>(chosen), window);
   }
-  PostQuitMessage(0);
+  SetTimer(window, 1, 1000, nullptr);  // for keys that are still on their way
 }
 
 LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -66,6 +66,10 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     case WM_CONTEXTMENU:
       self->RightClicked(window, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
       return 0;
+    case WM_CHAR:
+      Print(L"typed " + std::wstring(1, static_cast<wchar_t>(wParam)) + L'\n');
+      return 0;
+    case WM_TIMER:
     case WM_CLOSE:
       PostQuitMessage(0);
       return 0;

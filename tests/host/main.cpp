@@ -72,6 +72,14 @@ int ShowEdit() {
   return RunMessages();
 }
 
+/// Prints where the middle of a control of the window in front is on the screen.
+int PrintPlace(int control) {
+  RECT place{};
+  if (!GetWindowRect(GetDlgItem(GetForegroundWindow(), control), &place)) return 1;
+  std::printf("%ld %ld\n", (place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  return 0;
+}
+
 }  // namespace
 
 std::wstring WithSurrogatesSpelt(const std::wstring& text) {
@@ -105,6 +113,7 @@ int main(int argc, char** argv) {
   }
   if (mode == L"--save-list" && arguments.size() > 1) return SaveListOften(arguments[1]);
   if (mode == L"--edit") return ShowEdit();
+  if (mode == L"--place" && arguments.size() > 1) return PrintPlace(std::stoi(arguments[1]));
   if (mode == L"/k") return RecordStart(_wgetenv(PromptRecord), {});
   testing::InitGoogleTest(&argc, argv);
   testing::UnitTest::GetInstance()->listeners().Append(new test::Watchdog);
