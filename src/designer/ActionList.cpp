@@ -21,6 +21,7 @@ constexpr std::int32_t CannotAccess = 75;
 
 std::vector<std::wstring> NamesOf(const std::vector<CustomAction>& actions) {
   std::vector<std::wstring> names;
+  names.reserve(actions.size());
   for (const CustomAction& action : actions) names.push_back(action.m_szId);
   return names;
 }

@@ -38,6 +38,7 @@ const std::vector<std::wstring>& RecentList::Read() {
 
 void RecentList::Forget(const std::vector<std::size_t>& places) {
   std::vector<std::wstring> unwanted;
+  unwanted.reserve(places.size());
   for (const std::size_t place : places) unwanted.push_back(m_entries.at(place));
   if (!m_list.Forget(unwanted))
     throw Error(Error::Internal, L"The list cannot be written: the registry refuses it.");

@@ -15,7 +15,7 @@ class Sockets {
   using Socket = std::uintptr_t;
 
   Sockets();
-  ~Sockets();
+  ~Sockets();  // NOLINT(performance-trivially-destructible): on Windows it has work to do
   Sockets(const Sockets&) = delete;
   Sockets& operator=(const Sockets&) = delete;
 

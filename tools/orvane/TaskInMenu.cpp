@@ -15,8 +15,8 @@ std::wstring PathOf(const MenuDocument& menu, std::size_t item) {
   std::wstring path;
   for (;;) {
     const auto& [parent, data] = menu.items[item];
-    if (!data.IsTypeRoot()) path = L"/" + std::wstring(data.Caption()) + path;
-    if (parent == 0) break;
+    if (!data.IsTypeRoot()) path.insert(0, L"/" + data.Caption());
+    if (parent < 1 || static_cast<std::size_t>(parent) > item) break;  // not an earlier item
     item = static_cast<std::size_t>(parent) - 1;
   }
   std::erase(path, L'&');
