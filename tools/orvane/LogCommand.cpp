@@ -89,8 +89,10 @@ void ReadWhole(const Arguments& arguments) {
   // Lines that are printed to the same terminal would be torn apart.
   Progress progress(error || IsTerminal(Stream::Output) ? 0 : size);
   std::uintmax_t position = 0;
-  FeedFrom(standard ? std::cin : file, reading,
+  std::istream& stream = standard ? std::cin : file;
+  FeedFrom(stream, reading,
            [&](std::size_t count) { progress.Reach("reading", position += count, size); });
+  if (stream.bad()) throw std::runtime_error("cannot be read to its end");
   reading.End();
   reading.PrintSummary();
 }
